@@ -1,0 +1,6 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="en_US">
+<context><name></name>
+<message id="1632"><source></source><translation>Any</translation></message>
+</context></TS>

@@ -1,0 +1,5 @@
+#include "cli/Commands.h"
+
+int RunCommandLine(int, char**) {
+    return 2;
+}
