@@ -1,6 +1,3867 @@
 <?xml version="1.0" encoding="utf-8"?>
 <!DOCTYPE TS>
-<TS version="2.1" language="de_DE">
-<context><name></name>
-<message id="1632"><source></source><translation>Beliebig</translation></message>
-</context></TS>
+<TS version="2.1" language="de_DE" sourcelanguage="en_US">
+<context>
+    <name></name>
+    <message id="128">
+        <source>Ruleward Builder</source>
+        <extracomment>Title: title of the main window.</extracomment>
+        <translation>Ruleward Builder</translation>
+    </message>
+    <message id="129">
+        <source>&#10;Standard&#10;Standard&#10;Ruleward Standards (*.kvstd)&#10;.kvstd&#10;RulewardBuilder&#10;Ruleward Standard</source>
+        <extracomment>Title: seven fields with a line break between each two: window title (empty), document name, name of a new document, file filter name, file extension, file type key, file type name. Keep the count of line breaks, ".kvstd" and "RulewardBuilder"; translate the rest.</extracomment>
+        <translation>&#10;Standard&#10;Standard&#10;Ruleward-Standards (*.kvstd)&#10;.kvstd&#10;RulewardBuilder&#10;Ruleward-Standard</translation>
+    </message>
+    <message id="130">
+        <source>File Name</source>
+        <extracomment>Heading: first column of the lists of bend table and sheet format files.</extracomment>
+        <translation>Dateiname</translation>
+    </message>
+    <message id="131">
+        <source>Path</source>
+        <extracomment>Heading: second column of the lists of bend table and sheet format files; the full path.</extracomment>
+        <translation>Pfad</translation>
+    </message>
+    <message id="132">
+        <source>Macro</source>
+        <extracomment>Parameter label: check type 121. Must differ from the other labels of the type. Also a column heading of the custom check grid.</extracomment>
+        <translation>Makro</translation>
+    </message>
+    <message id="133">
+        <source>Module</source>
+        <extracomment>Parameter label: check type 121. Must differ from the other labels of the type. Texts 133 and 134 together head the procedure column of the custom check grid.</extracomment>
+        <translation>Modul</translation>
+    </message>
+    <message id="134">
+        <source>Procedure</source>
+        <extracomment>Parameter label: check type 121. Must differ from the other labels of the type. Texts 133 and 134 together head the procedure column of the custom check grid.</extracomment>
+        <translation>Prozedur</translation>
+    </message>
+    <message id="135">
+        <source>Check Name</source>
+        <extracomment>Parameter label: check type 121. Must differ from the other labels of the type.</extracomment>
+        <translation>Name der Prüfung</translation>
+    </message>
+    <message id="138">
+        <source>Document Type</source>
+        <extracomment>Parameter label: check type 121. Must differ from the other labels of the type. Also a column heading of the custom check grid.</extracomment>
+        <translation>Dokumenttyp</translation>
+    </message>
+    <message id="139">
+        <source>Virtual Sharps</source>
+        <extracomment>Check name: check type 123; also the caption of its pane.</extracomment>
+        <translation>Virtuelle Ecken</translation>
+    </message>
+    <message id="140">
+        <source>Virtual Sharp Style</source>
+        <extracomment>Parameter label: check type 123. Must differ from the other labels of the type.</extracomment>
+        <translation>Darstellung der virtuellen Ecke</translation>
+    </message>
+    <message id="1221">
+        <source>Virtual Sharps</source>
+        <extracomment>Button text: catalogue button of check type 123.</extracomment>
+        <translation>Virtuelle Ecken</translation>
+    </message>
+    <message id="1330">
+        <source>Angular - Solid Leader with Aligned Text</source>
+        <extracomment>Option: one of the angular dimension texts. Must differ from the others. Also names its picture file in a report: unique among all pictures and valid as a file name.</extracomment>
+        <translation>Winkelmaß - durchgehende Hinweislinie mit ausgerichtetem Text</translation>
+    </message>
+    <message id="1331">
+        <source>Angular - Broken Leader with Horizontal Text</source>
+        <extracomment>Option: one of the angular dimension texts. Must differ from the others. Also names its picture file in a report: unique among all pictures and valid as a file name.</extracomment>
+        <translation>Winkelmaß - unterbrochene Hinweislinie mit waagerechtem Text</translation>
+    </message>
+    <message id="1332">
+        <source>Angular - Broken Leader with Aligned Text</source>
+        <extracomment>Option: one of the angular dimension texts. Must differ from the others. Also names its picture file in a report: unique among all pictures and valid as a file name.</extracomment>
+        <translation>Winkelmaß - unterbrochene Hinweislinie mit ausgerichtetem Text</translation>
+    </message>
+    <message id="1333">
+        <source>Radial - Solid Leader with Aligned Text</source>
+        <extracomment>Option: one of the radial dimension texts. Must differ from the others. Also names its picture file in a report: unique among all pictures and valid as a file name.</extracomment>
+        <translation>Radialmaß - durchgehende Hinweislinie mit ausgerichtetem Text</translation>
+    </message>
+    <message id="1334">
+        <source>Radial - Broken Leader with Horizontal Text</source>
+        <extracomment>Option: one of the radial dimension texts. Must differ from the others. Also names its picture file in a report: unique among all pictures and valid as a file name.</extracomment>
+        <translation>Radialmaß - unterbrochene Hinweislinie mit waagerechtem Text</translation>
+    </message>
+    <message id="1335">
+        <source>Radial - Broken Leader with Aligned Text</source>
+        <extracomment>Option: one of the radial dimension texts. Must differ from the others. Also names its picture file in a report: unique among all pictures and valid as a file name.</extracomment>
+        <translation>Radialmaß - unterbrochene Hinweislinie mit ausgerichtetem Text</translation>
+    </message>
+    <message id="1336">
+        <source>Chamfer - Horizontal Text</source>
+        <extracomment>Option: one of the chamfer dimension texts. Must differ from the others. Also names its picture file in a report: unique among all pictures and valid as a file name.</extracomment>
+        <translation>Fasenmaß - waagerechter Text</translation>
+    </message>
+    <message id="1337">
+        <source>Chamfer - Underlined Horizontal Text</source>
+        <extracomment>Option: one of the chamfer dimension texts. Must differ from the others. Also names its picture file in a report: unique among all pictures and valid as a file name.</extracomment>
+        <translation>Fasenmaß - unterstrichener waagerechter Text</translation>
+    </message>
+    <message id="1338">
+        <source>Chamfer - Angled Text</source>
+        <extracomment>Option: one of the chamfer dimension texts. Must differ from the others. Also names its picture file in a report: unique among all pictures and valid as a file name.</extracomment>
+        <translation>Fasenmaß - schräger Text</translation>
+    </message>
+    <message id="1339">
+        <source>Chamfer - Underlined Angled Text</source>
+        <extracomment>Option: one of the chamfer dimension texts. Must differ from the others. Also names its picture file in a report: unique among all pictures and valid as a file name.</extracomment>
+        <translation>Fasenmaß - unterstrichener schräger Text</translation>
+    </message>
+    <message id="1340">
+        <source>Linear - Solid Leader with Aligned Text</source>
+        <extracomment>Option: one of the linear dimension texts. Must differ from the others. Also names its picture file in a report: unique among all pictures and valid as a file name.</extracomment>
+        <translation>Längenmaß - durchgehende Hinweislinie mit ausgerichtetem Text</translation>
+    </message>
+    <message id="1341">
+        <source>Linear - Broken Leader with Horizontal Text</source>
+        <extracomment>Option: one of the linear dimension texts. Must differ from the others. Also names its picture file in a report: unique among all pictures and valid as a file name.</extracomment>
+        <translation>Längenmaß - unterbrochene Hinweislinie mit waagerechtem Text</translation>
+    </message>
+    <message id="1342">
+        <source>Linear - Broken Leader with Aligned Text</source>
+        <extracomment>Option: one of the linear dimension texts. Must differ from the others. Also names its picture file in a report: unique among all pictures and valid as a file name.</extracomment>
+        <translation>Längenmaß - unterbrochene Hinweislinie mit ausgerichtetem Text</translation>
+    </message>
+    <message id="1343">
+        <source>Learn from Document</source>
+        <extracomment>Title: open dialog of the learn command.</extracomment>
+        <translation>Aus Dokument lernen</translation>
+    </message>
+    <message id="1344">
+        <source>Add bend tables</source>
+        <extracomment>Tooltip: add button of the bend table pane.</extracomment>
+        <translation>Biegetabellen hinzufügen</translation>
+    </message>
+    <message id="1514">
+        <source>Ruleward Builder cannot start because the automation services of the system are not available. Sign out, sign in again, and retry.</source>
+        <extracomment>Message: start-up fails because the desktop's automation services cannot be reached.</extracomment>
+        <translation>Ruleward Builder kann nicht starten, weil die Automatisierungsdienste des Systems nicht verfügbar sind. Melden Sie sich ab und wieder an, und versuchen Sie es erneut.</translation>
+    </message>
+    <message id="1552">
+        <source>Dimension Arrow Height</source>
+        <extracomment>Parameter label: check type 102. Must differ from the other labels of the type.</extracomment>
+        <translation>Höhe des Maßpfeils</translation>
+    </message>
+    <message id="1553">
+        <source>Dimension Arrow Width</source>
+        <extracomment>Parameter label: check type 102. Must differ from the other labels of the type.</extracomment>
+        <translation>Breite des Maßpfeils</translation>
+    </message>
+    <message id="1554">
+        <source>Dimension Arrow Length</source>
+        <extracomment>Parameter label: check type 102. Must differ from the other labels of the type.</extracomment>
+        <translation>Länge des Maßpfeils</translation>
+    </message>
+    <message id="1555">
+        <source>Section Arrow Height</source>
+        <extracomment>Parameter label: check type 102. Must differ from the other labels of the type.</extracomment>
+        <translation>Höhe des Schnittpfeils</translation>
+    </message>
+    <message id="1556">
+        <source>Section Arrow Width</source>
+        <extracomment>Parameter label: check type 102. Must differ from the other labels of the type.</extracomment>
+        <translation>Breite des Schnittpfeils</translation>
+    </message>
+    <message id="1557">
+        <source>Section Arrow Length</source>
+        <extracomment>Parameter label: check type 102. Must differ from the other labels of the type.</extracomment>
+        <translation>Länge des Schnittpfeils</translation>
+    </message>
+    <message id="1558">
+        <source>Arrowhead at Edge or Vertex</source>
+        <extracomment>Parameter label: check type 102. Must differ from the other labels of the type.</extracomment>
+        <translation>Pfeilspitze an Kante oder Eckpunkt</translation>
+    </message>
+    <message id="1559">
+        <source>Arrowhead at Face</source>
+        <extracomment>Parameter label: check type 102. Must differ from the other labels of the type.</extracomment>
+        <translation>Pfeilspitze an Fläche</translation>
+    </message>
+    <message id="1560">
+        <source>Unattached Arrowhead</source>
+        <extracomment>Parameter label: check type 102. Must differ from the other labels of the type.</extracomment>
+        <translation>Pfeilspitze ohne Bezugselement</translation>
+    </message>
+    <message id="1561">
+        <source>First Arrowhead Style</source>
+        <extracomment>Parameter label: check type 402. Must differ from the other labels of the type.</extracomment>
+        <translation>Form der ersten Pfeilspitze</translation>
+    </message>
+    <message id="1562">
+        <source>Second Arrowhead Style</source>
+        <extracomment>Parameter label: check type 402. Must differ from the other labels of the type.</extracomment>
+        <translation>Form der zweiten Pfeilspitze</translation>
+    </message>
+    <message id="1563">
+        <source>Layer Name</source>
+        <extracomment>Parameter label: check types 304 to 306. Must differ from the other labels of the type.</extracomment>
+        <translation>Name des Layers</translation>
+    </message>
+    <message id="1564">
+        <source>Layer Color</source>
+        <extracomment>Parameter label: check types 304, 306. Must differ from the other labels of the type.</extracomment>
+        <translation>Farbe des Layers</translation>
+    </message>
+    <message id="1565">
+        <source>Layer Line Style</source>
+        <extracomment>Parameter label: check types 304, 306. Must differ from the other labels of the type.</extracomment>
+        <translation>Linienart des Layers</translation>
+    </message>
+    <message id="1566">
+        <source>Layer Line Thickness</source>
+        <extracomment>Parameter label: check types 304, 306. Must differ from the other labels of the type.</extracomment>
+        <translation>Linienstärke des Layers</translation>
+    </message>
+    <message id="1567">
+        <source>Use Document Arrowhead Style</source>
+        <extracomment>Parameter label: check types 201, 402. Must differ from the other labels of the type.</extracomment>
+        <translation>Pfeilspitzenform des Dokuments verwenden</translation>
+    </message>
+    <message id="1568">
+        <source>Use Document Arrow Placement</source>
+        <extracomment>Parameter label: check type 402. Must differ from the other labels of the type.</extracomment>
+        <translation>Pfeilanordnung des Dokuments verwenden</translation>
+    </message>
+    <message id="1569">
+        <source>Arrow Placement</source>
+        <extracomment>Parameter label: check type 402. Must differ from the other labels of the type.</extracomment>
+        <translation>Pfeilanordnung</translation>
+    </message>
+    <message id="1575">
+        <source>Outside</source>
+        <extracomment>Option: one of the arrow placements. Must differ from the others.</extracomment>
+        <translation>Außen</translation>
+    </message>
+    <message id="1576">
+        <source>Inside</source>
+        <extracomment>Option: one of the arrow placements. Must differ from the others.</extracomment>
+        <translation>Innen</translation>
+    </message>
+    <message id="1577">
+        <source>Smart</source>
+        <extracomment>Option: one of the arrow placements. Must differ from the others.</extracomment>
+        <translation>Automatisch</translation>
+    </message>
+    <message id="1578">
+        <source>Drafting Standard</source>
+        <extracomment>Parameter label: check type 101. Must differ from the other labels of the type.</extracomment>
+        <translation>Zeichnungsnorm</translation>
+    </message>
+    <message id="1579">
+        <source>Arrowheads (Document)</source>
+        <extracomment>Check name: check type 102; also the caption of its pane.</extracomment>
+        <translation>Pfeilspitzen (Dokument)</translation>
+    </message>
+    <message id="1580">
+        <source>Arrowheads (Dimensions)</source>
+        <extracomment>Check name: check type 402; also the caption of its pane.</extracomment>
+        <translation>Pfeilspitzen (Maße)</translation>
+    </message>
+    <message id="1581">
+        <source>Drafting Standard</source>
+        <extracomment>Check name: check type 101; also the caption of its pane.</extracomment>
+        <translation>Zeichnungsnorm</translation>
+    </message>
+    <message id="1582">
+        <source>Layers</source>
+        <extracomment>Check name: check types 303, 304; also the caption of its pane.</extracomment>
+        <translation>Layer</translation>
+    </message>
+    <message id="1583">
+        <source>Annotation Arrowhead Style</source>
+        <extracomment>Parameter label: check type 201. Must differ from the other labels of the type.</extracomment>
+        <translation>Pfeilspitzenform der Beschriftung</translation>
+    </message>
+    <message id="1584">
+        <source>Arrowheads (Annotations)</source>
+        <extracomment>Check name: check type 201; also the caption of its pane.</extracomment>
+        <translation>Pfeilspitzen (Beschriftungen)</translation>
+    </message>
+    <message id="1585">
+        <source>Fixed Components</source>
+        <extracomment>Check name: check type 603; also the caption of its pane.</extracomment>
+        <translation>Fixierte Komponenten</translation>
+    </message>
+    <message id="1586">
+        <source>Number of Fixed Components</source>
+        <extracomment>Parameter label: check type 603. Must differ from the other labels of the type.</extracomment>
+        <translation>Anzahl der fixierten Komponenten</translation>
+    </message>
+    <message id="1587">
+        <source>Overlapping Views</source>
+        <extracomment>Check name: check type 307; also the caption of its pane.</extracomment>
+        <translation>Überlappende Ansichten</translation>
+    </message>
+    <message id="1588">
+        <source>The file is in use elsewhere and cannot be locked. Do you want to open it as read-only?</source>
+        <extracomment>Question: Yes/No, on opening a file that cannot be locked. Yes opens it without a lock.</extracomment>
+        <translation>Die Datei wird an anderer Stelle verwendet und kann nicht gesperrt werden. Möchten Sie sie schreibgeschützt öffnen?</translation>
+    </message>
+    <message id="1589">
+        <source>Overridden Dimensions</source>
+        <extracomment>Check name: check type 401; also the caption of its pane. Also the label of its parameter.</extracomment>
+        <translation>Überschriebene Maße</translation>
+    </message>
+    <message id="1590">
+        <source>Add standards to the list</source>
+        <extracomment>Tooltip: add button of the merge dialog.</extracomment>
+        <translation>Standards zur Liste hinzufügen</translation>
+    </message>
+    <message id="1591">
+        <source>Overlapping Dimensions</source>
+        <extracomment>Check name: check type 406; also the caption of its pane.</extracomment>
+        <translation>Überlappende Maße</translation>
+    </message>
+    <message id="1592">
+        <source>Remove the selected standards from the list</source>
+        <extracomment>Tooltip: remove button of the merge dialog.</extracomment>
+        <translation>Ausgewählte Standards aus der Liste entfernen</translation>
+    </message>
+    <message id="1593">
+        <source>References Up to Date</source>
+        <extracomment>Check name: check type 107; also the caption of its pane.</extracomment>
+        <translation>Aktualität der Referenzen</translation>
+    </message>
+    <message id="1594">
+        <source>Move the selected standard up</source>
+        <extracomment>Tooltip: move-up button of the merge dialog.</extracomment>
+        <translation>Ausgewählten Standard nach oben verschieben</translation>
+    </message>
+    <message id="1595">
+        <source>Geometric Tolerance Datums</source>
+        <extracomment>Check name: check type 301; also the caption of its pane.</extracomment>
+        <translation>Bezüge der Form- und Lagetoleranzen</translation>
+    </message>
+    <message id="1596">
+        <source>Move the selected standard down</source>
+        <extracomment>Tooltip: move-down button of the merge dialog.</extracomment>
+        <translation>Ausgewählten Standard nach unten verschieben</translation>
+    </message>
+    <message id="1597">
+        <source>Bill of Materials Balloons</source>
+        <extracomment>Check name: check type 309; also the caption of its pane.</extracomment>
+        <translation>Positionsnummern der Stückliste</translation>
+    </message>
+    <message id="1598">
+        <source>Standards to be merged; a later standard replaces the checks of an earlier one</source>
+        <extracomment>Tooltip: list of the merge dialog. The order counts.</extracomment>
+        <translation>Zusammenzuführende Standards; ein späterer Standard ersetzt die Prüfungen eines früheren</translation>
+    </message>
+    <message id="1599">
+        <source>Fully Defined Sketches</source>
+        <extracomment>Check name: check type 702; also the caption of its pane.</extracomment>
+        <translation>Vollständig bestimmte Skizzen</translation>
+    </message>
+    <message id="1600">
+        <source>Feature Errors</source>
+        <extracomment>Check name: check type 701; also the caption of its pane.</extracomment>
+        <translation>Featurefehler</translation>
+    </message>
+    <message id="1601">
+        <source>Mate Errors</source>
+        <extracomment>Check name: check type 602; also the caption of its pane.</extracomment>
+        <translation>Verknüpfungsfehler</translation>
+    </message>
+    <message id="1605">
+        <source>Sheet Format</source>
+        <extracomment>Check name: check type 302; also the caption of its pane.</extracomment>
+        <translation>Blattformat</translation>
+    </message>
+    <message id="1606">
+        <source>A0</source>
+        <extracomment>Option: one of the sheet sizes. Must differ from the others.</extracomment>
+        <translation>A0</translation>
+    </message>
+    <message id="1607">
+        <source>A</source>
+        <extracomment>Option: one of the sheet sizes. Must differ from the others.</extracomment>
+        <translation>A</translation>
+    </message>
+    <message id="1608">
+        <source>A Portrait</source>
+        <extracomment>Option: one of the sheet sizes. Must differ from the others.</extracomment>
+        <translation>A Hochformat</translation>
+    </message>
+    <message id="1609">
+        <source>B</source>
+        <extracomment>Option: one of the sheet sizes. Must differ from the others.</extracomment>
+        <translation>B</translation>
+    </message>
+    <message id="1610">
+        <source>C</source>
+        <extracomment>Option: one of the sheet sizes. Must differ from the others.</extracomment>
+        <translation>C</translation>
+    </message>
+    <message id="1611">
+        <source>D</source>
+        <extracomment>Option: one of the sheet sizes. Must differ from the others.</extracomment>
+        <translation>D</translation>
+    </message>
+    <message id="1612">
+        <source>E</source>
+        <extracomment>Option: one of the sheet sizes. Must differ from the others.</extracomment>
+        <translation>E</translation>
+    </message>
+    <message id="1613">
+        <source>A1</source>
+        <extracomment>Option: one of the sheet sizes. Must differ from the others.</extracomment>
+        <translation>A1</translation>
+    </message>
+    <message id="1614">
+        <source>A2</source>
+        <extracomment>Option: one of the sheet sizes. Must differ from the others.</extracomment>
+        <translation>A2</translation>
+    </message>
+    <message id="1615">
+        <source>A3</source>
+        <extracomment>Option: one of the sheet sizes. Must differ from the others.</extracomment>
+        <translation>A3</translation>
+    </message>
+    <message id="1616">
+        <source>A4</source>
+        <extracomment>Option: one of the sheet sizes. Must differ from the others.</extracomment>
+        <translation>A4</translation>
+    </message>
+    <message id="1617">
+        <source>A4 Portrait</source>
+        <extracomment>Option: one of the sheet sizes. Must differ from the others.</extracomment>
+        <translation>A4 Hochformat</translation>
+    </message>
+    <message id="1618">
+        <source>Sheet Size</source>
+        <extracomment>Parameter label: check type 302. Must differ from the other labels of the type.</extracomment>
+        <translation>Blattgröße</translation>
+    </message>
+    <message id="1619">
+        <source>Sheet Width</source>
+        <extracomment>Parameter label: check type 302. Must differ from the other labels of the type.</extracomment>
+        <translation>Blattbreite</translation>
+    </message>
+    <message id="1620">
+        <source>Sheet Height</source>
+        <extracomment>Parameter label: check type 302. Must differ from the other labels of the type.</extracomment>
+        <translation>Blatthöhe</translation>
+    </message>
+    <message id="1621">
+        <source>Angstroms</source>
+        <extracomment>Unit: one of the length units. Must differ from the others.</extracomment>
+        <translation>Ångström</translation>
+    </message>
+    <message id="1622">
+        <source>Nanometers</source>
+        <extracomment>Unit: one of the length units. Must differ from the others.</extracomment>
+        <translation>Nanometer</translation>
+    </message>
+    <message id="1623">
+        <source>Microns</source>
+        <extracomment>Unit: one of the length units. Must differ from the others.</extracomment>
+        <translation>Mikrometer</translation>
+    </message>
+    <message id="1624">
+        <source>Millimeters</source>
+        <extracomment>Unit: one of the length units. Must differ from the others.</extracomment>
+        <translation>Millimeter</translation>
+    </message>
+    <message id="1625">
+        <source>Centimeters</source>
+        <extracomment>Unit: one of the length units. Must differ from the others.</extracomment>
+        <translation>Zentimeter</translation>
+    </message>
+    <message id="1626">
+        <source>Meters</source>
+        <extracomment>Unit: one of the length units. Must differ from the others.</extracomment>
+        <translation>Meter</translation>
+    </message>
+    <message id="1627">
+        <source>Microinches</source>
+        <extracomment>Unit: one of the length units. Must differ from the others.</extracomment>
+        <translation>Mikrozoll</translation>
+    </message>
+    <message id="1628">
+        <source>Mils</source>
+        <extracomment>Unit: one of the length units. Must differ from the others.</extracomment>
+        <translation>Mil</translation>
+    </message>
+    <message id="1629">
+        <source>Inches</source>
+        <extracomment>Unit: one of the length units. Must differ from the others.</extracomment>
+        <translation>Zoll</translation>
+    </message>
+    <message id="1630">
+        <source>Feet</source>
+        <extracomment>Unit: one of the length units. Must differ from the others.</extracomment>
+        <translation>Fuß</translation>
+    </message>
+    <message id="1631">
+        <source>Feet and Inches</source>
+        <extracomment>Unit: one of the length units. It has no short form and is not offered as the unit of a standard.</extracomment>
+        <translation>Fuß und Zoll</translation>
+    </message>
+    <message id="1632">
+        <source>Any</source>
+        <extracomment>Operator: the parameter is not tested. First row of every comparison box; also property type, and a cell or picker without a choice. The English text must stay "Any".</extracomment>
+        <translation>Beliebig</translation>
+    </message>
+    <message id="1633">
+        <source>Degrees</source>
+        <extracomment>Unit: one of the angle units. Must differ from the others.</extracomment>
+        <translation>Grad</translation>
+    </message>
+    <message id="1634">
+        <source>Degrees and Minutes</source>
+        <extracomment>Unit: row of the angle unit list box; minutes of arc.</extracomment>
+        <translation>Grad und Minuten</translation>
+    </message>
+    <message id="1635">
+        <source>Degrees, Minutes and Seconds</source>
+        <extracomment>Unit: row of the angle unit list box; seconds of arc.</extracomment>
+        <translation>Grad, Minuten und Sekunden</translation>
+    </message>
+    <message id="1636">
+        <source>Radians</source>
+        <extracomment>Unit: one of the angle units. Must differ from the others.</extracomment>
+        <translation>Radiant</translation>
+    </message>
+    <message id="1637">
+        <source>Milligrams</source>
+        <extracomment>Unit: one of the mass units. Must differ from the others.</extracomment>
+        <translation>Milligramm</translation>
+    </message>
+    <message id="1638">
+        <source>Grams</source>
+        <extracomment>Unit: one of the mass units. Must differ from the others.</extracomment>
+        <translation>Gramm</translation>
+    </message>
+    <message id="1639">
+        <source>Kilograms</source>
+        <extracomment>Unit: one of the mass units. Must differ from the others.</extracomment>
+        <translation>Kilogramm</translation>
+    </message>
+    <message id="1640">
+        <source>Pounds</source>
+        <extracomment>Unit: one of the mass units. Must differ from the others.</extracomment>
+        <translation>Pfund</translation>
+    </message>
+    <message id="1641">
+        <source>Cubic Millimeters</source>
+        <extracomment>Unit: one of the volume units. Must differ from the others.</extracomment>
+        <translation>Kubikmillimeter</translation>
+    </message>
+    <message id="1642">
+        <source>Cubic Centimeters</source>
+        <extracomment>Unit: one of the volume units. Must differ from the others.</extracomment>
+        <translation>Kubikzentimeter</translation>
+    </message>
+    <message id="1643">
+        <source>Cubic Meters</source>
+        <extracomment>Unit: one of the volume units. Must differ from the others.</extracomment>
+        <translation>Kubikmeter</translation>
+    </message>
+    <message id="1644">
+        <source>Cubic Angstroms</source>
+        <extracomment>Unit: one of the volume units. Must differ from the others.</extracomment>
+        <translation>Kubikångström</translation>
+    </message>
+    <message id="1645">
+        <source>Cubic Nanometers</source>
+        <extracomment>Unit: one of the volume units. Must differ from the others.</extracomment>
+        <translation>Kubiknanometer</translation>
+    </message>
+    <message id="1646">
+        <source>Cubic Microns</source>
+        <extracomment>Unit: one of the volume units. Must differ from the others.</extracomment>
+        <translation>Kubikmikrometer</translation>
+    </message>
+    <message id="1647">
+        <source>Cubic Inches</source>
+        <extracomment>Unit: one of the volume units. Must differ from the others.</extracomment>
+        <translation>Kubikzoll</translation>
+    </message>
+    <message id="1649">
+        <source>Cubic Feet</source>
+        <extracomment>Unit: one of the volume units. Must differ from the others.</extracomment>
+        <translation>Kubikfuß</translation>
+    </message>
+    <message id="1650">
+        <source>Liters</source>
+        <extracomment>Unit: one of the volume units. Must differ from the others.</extracomment>
+        <translation>Liter</translation>
+    </message>
+    <message id="1651">
+        <source>Newtons</source>
+        <extracomment>Unit: one of the force units. Must differ from the others.</extracomment>
+        <translation>Newton</translation>
+    </message>
+    <message id="1652">
+        <source>Kilonewtons</source>
+        <extracomment>Unit: one of the force units. Must differ from the others.</extracomment>
+        <translation>Kilonewton</translation>
+    </message>
+    <message id="1653">
+        <source>Dynes</source>
+        <extracomment>Unit: one of the force units. Must differ from the others.</extracomment>
+        <translation>Dyn</translation>
+    </message>
+    <message id="1654">
+        <source>Kilograms-Force</source>
+        <extracomment>Unit: one of the force units. Must differ from the others.</extracomment>
+        <translation>Kilopond</translation>
+    </message>
+    <message id="1655">
+        <source>Pounds-Force</source>
+        <extracomment>Unit: one of the force units. Must differ from the others.</extracomment>
+        <translation>Pfund-Kraft</translation>
+    </message>
+    <message id="1656">
+        <source>Ounces-Force</source>
+        <extracomment>Unit: one of the force units. Must differ from the others.</extracomment>
+        <translation>Unzen-Kraft</translation>
+    </message>
+    <message id="1657">
+        <source>between</source>
+        <extracomment>Operator: a range. Reports write it in front of the two values, as in between(1,2).</extracomment>
+        <translation>zwischen</translation>
+    </message>
+    <message id="1658">
+        <source>one of</source>
+        <extracomment>Operator: a list of values, one of which must fit.</extracomment>
+        <translation>eines von</translation>
+    </message>
+    <message id="1659">
+        <source>none of</source>
+        <extracomment>Operator: a list of values, none of which may fit. Reports write it directly in front of the value; no blank at the end.</extracomment>
+        <translation>keines von</translation>
+    </message>
+    <message id="1660">
+        <source>Yes</source>
+        <extracomment>Option: one of the yes and no. Must differ from the others.</extracomment>
+        <translation>Ja</translation>
+    </message>
+    <message id="1661">
+        <source>No</source>
+        <extracomment>Option: one of the yes and no. Must differ from the others.</extracomment>
+        <translation>Nein</translation>
+    </message>
+    <message id="1662">
+        <source>Units (Document)</source>
+        <extracomment>Check name: check type 108; also the caption of its pane.</extracomment>
+        <translation>Einheiten (Dokument)</translation>
+    </message>
+    <message id="1663">
+        <source>Unit System</source>
+        <extracomment>Parameter label: check type 108. Must differ from the other labels of the type.</extracomment>
+        <translation>Einheitensystem</translation>
+    </message>
+    <message id="1664">
+        <source>Length Unit</source>
+        <extracomment>Parameter label: check types 108, 405. Must differ from the other labels of the type.</extracomment>
+        <translation>Längeneinheit</translation>
+    </message>
+    <message id="1665">
+        <source>Length Decimal Places</source>
+        <extracomment>Parameter label: check types 108, 405. Must differ from the other labels of the type.</extracomment>
+        <translation>Dezimalstellen der Länge</translation>
+    </message>
+    <message id="1666">
+        <source>Length Number Format</source>
+        <extracomment>Parameter label: check types 108, 405. Must differ from the other labels of the type.</extracomment>
+        <translation>Zahlenformat der Länge</translation>
+    </message>
+    <message id="1667">
+        <source>Length Fraction Denominator</source>
+        <extracomment>Parameter label: check types 108, 405. Must differ from the other labels of the type.</extracomment>
+        <translation>Bruchnenner der Länge</translation>
+    </message>
+    <message id="1668">
+        <source>Round to Nearest Length Fraction</source>
+        <extracomment>Parameter label: check types 108, 405. Must differ from the other labels of the type.</extracomment>
+        <translation>Auf nächsten Längenbruch runden</translation>
+    </message>
+    <message id="1669">
+        <source>Dual Length Unit</source>
+        <extracomment>Parameter label: check type 108. Must differ from the other labels of the type.</extracomment>
+        <translation>Zweite Längeneinheit</translation>
+    </message>
+    <message id="1670">
+        <source>Dual Decimal Places</source>
+        <extracomment>Parameter label: check type 108. Must differ from the other labels of the type.</extracomment>
+        <translation>Dezimalstellen der zweiten Einheit</translation>
+    </message>
+    <message id="1671">
+        <source>Dual Number Format</source>
+        <extracomment>Parameter label: check type 108. Must differ from the other labels of the type.</extracomment>
+        <translation>Zahlenformat der zweiten Einheit</translation>
+    </message>
+    <message id="1672">
+        <source>Dual Fraction Denominator</source>
+        <extracomment>Parameter label: check type 108. Must differ from the other labels of the type.</extracomment>
+        <translation>Bruchnenner der zweiten Einheit</translation>
+    </message>
+    <message id="1673">
+        <source>Round to Nearest Dual Fraction</source>
+        <extracomment>Parameter label: check type 108. Must differ from the other labels of the type.</extracomment>
+        <translation>Auf nächsten Bruch der zweiten Einheit runden</translation>
+    </message>
+    <message id="1674">
+        <source>Angle Unit</source>
+        <extracomment>Parameter label: check types 108, 405. Must differ from the other labels of the type.</extracomment>
+        <translation>Winkeleinheit</translation>
+    </message>
+    <message id="1675">
+        <source>Angle Decimal Places</source>
+        <extracomment>Parameter label: check types 108, 405. Must differ from the other labels of the type.</extracomment>
+        <translation>Dezimalstellen des Winkels</translation>
+    </message>
+    <message id="1676">
+        <source>Mass Property Length Unit</source>
+        <extracomment>Parameter label: check type 108. Must differ from the other labels of the type.</extracomment>
+        <translation>Längeneinheit der Masseneigenschaften</translation>
+    </message>
+    <message id="1677">
+        <source>Mass Unit</source>
+        <extracomment>Parameter label: check type 108. Must differ from the other labels of the type.</extracomment>
+        <translation>Masseneinheit</translation>
+    </message>
+    <message id="1678">
+        <source>Volume Unit</source>
+        <extracomment>Parameter label: check type 108. Must differ from the other labels of the type.</extracomment>
+        <translation>Volumeneinheit</translation>
+    </message>
+    <message id="1679">
+        <source>Force Unit</source>
+        <extracomment>Parameter label: check type 108. Must differ from the other labels of the type.</extracomment>
+        <translation>Krafteinheit</translation>
+    </message>
+    <message id="1680">
+        <source>Mass Property Decimal Places</source>
+        <extracomment>Parameter label: check type 108. Must differ from the other labels of the type.</extracomment>
+        <translation>Dezimalstellen der Masseneigenschaften</translation>
+    </message>
+    <message id="1681">
+        <source>MKS (meter, kilogram, second)</source>
+        <extracomment>Option: one of the unit systems. Must differ from the others.</extracomment>
+        <translation>MKS (Meter, Kilogramm, Sekunde)</translation>
+    </message>
+    <message id="1682">
+        <source>CGS (centimeter, gram, second)</source>
+        <extracomment>Option: one of the unit systems. Must differ from the others.</extracomment>
+        <translation>CGS (Zentimeter, Gramm, Sekunde)</translation>
+    </message>
+    <message id="1683">
+        <source>MMGS (millimeter, gram, second)</source>
+        <extracomment>Option: one of the unit systems. Must differ from the others.</extracomment>
+        <translation>MMGS (Millimeter, Gramm, Sekunde)</translation>
+    </message>
+    <message id="1684">
+        <source>Custom</source>
+        <extracomment>Option: one of the unit systems. Must differ from the others.</extracomment>
+        <translation>Benutzerdefiniert</translation>
+    </message>
+    <message id="1685">
+        <source>IPS (inch, pound, second)</source>
+        <extracomment>Option: one of the unit systems. Must differ from the others.</extracomment>
+        <translation>IPS (Zoll, Pfund, Sekunde)</translation>
+    </message>
+    <message id="1686">
+        <source>Decimal</source>
+        <extracomment>Option: one of the number formats. Must differ from the others.</extracomment>
+        <translation>Dezimalzahl</translation>
+    </message>
+    <message id="1687">
+        <source>Fraction</source>
+        <extracomment>Option: one of the number formats. Must differ from the others.</extracomment>
+        <translation>Bruch</translation>
+    </message>
+    <message id="1688">
+        <source>Bill of Materials Balloon</source>
+        <extracomment>Parameter label: check type 309. Must differ from the other labels of the type.</extracomment>
+        <translation>Positionsnummer der Stückliste</translation>
+    </message>
+    <message id="1689">
+        <source>Units (Dimensions)</source>
+        <extracomment>Check name: check type 405; also the caption of its pane.</extracomment>
+        <translation>Einheiten (Maße)</translation>
+    </message>
+    <message id="1690">
+        <source>Use Document Setting</source>
+        <extracomment>Parameter label: check types 202, 314, 403, 405. Must differ from the other labels of the type.</extracomment>
+        <translation>Dokumenteinstellung verwenden</translation>
+    </message>
+    <message id="1691">
+        <source>Spelling</source>
+        <extracomment>Check name: check type 203; also the caption of its pane.</extracomment>
+        <translation>Rechtschreibung</translation>
+    </message>
+    <message id="1694">
+        <source>Datum Reference</source>
+        <extracomment>Parameter label: check type 301. Must differ from the other labels of the type.</extracomment>
+        <translation>Bezugsverweis</translation>
+    </message>
+    <message id="1695">
+        <source>Regular</source>
+        <extracomment>Option: one of the font styles. Must differ from the others.</extracomment>
+        <translation>Normal</translation>
+    </message>
+    <message id="1696">
+        <source>Italic</source>
+        <extracomment>Option: one of the font styles. Must differ from the others.</extracomment>
+        <translation>Kursiv</translation>
+    </message>
+    <message id="1697">
+        <source>Bold</source>
+        <extracomment>Option: one of the font styles. Must differ from the others.</extracomment>
+        <translation>Fett</translation>
+    </message>
+    <message id="1698">
+        <source>Bold Italic</source>
+        <extracomment>Option: one of the font styles. Must differ from the others.</extracomment>
+        <translation>Fett kursiv</translation>
+    </message>
+    <message id="1699">
+        <source>Font (Dimensions)</source>
+        <extracomment>Check name: check type 403; also the caption of its pane.</extracomment>
+        <translation>Schriftart (Maße)</translation>
+    </message>
+    <message id="1700">
+        <source>Font Name</source>
+        <extracomment>Parameter label: all font checks. Must differ from the other labels of the type.</extracomment>
+        <translation>Name der Schriftart</translation>
+    </message>
+    <message id="1701">
+        <source>Font Style</source>
+        <extracomment>Parameter label: all font checks. Must differ from the other labels of the type.</extracomment>
+        <translation>Schriftschnitt</translation>
+    </message>
+    <message id="1702">
+        <source>Strikeout</source>
+        <extracomment>Parameter label: all font checks. Must differ from the other labels of the type.</extracomment>
+        <translation>Durchgestrichen</translation>
+    </message>
+    <message id="1703">
+        <source>Underline</source>
+        <extracomment>Parameter label: all font checks. Must differ from the other labels of the type.</extracomment>
+        <translation>Unterstrichen</translation>
+    </message>
+    <message id="1704">
+        <source>Text Height</source>
+        <extracomment>Parameter label: all font checks. Must differ from the other labels of the type.</extracomment>
+        <translation>Texthöhe</translation>
+    </message>
+    <message id="1705">
+        <source>Text Spacing</source>
+        <extracomment>Parameter label: all font checks. Must differ from the other labels of the type.</extracomment>
+        <translation>Textabstand</translation>
+    </message>
+    <message id="1706">
+        <source>Text Height in Points</source>
+        <extracomment>Parameter label: all font checks. Must differ from the other labels of the type.</extracomment>
+        <translation>Texthöhe in Punkt</translation>
+    </message>
+    <message id="1707">
+        <source>Spelling Errors</source>
+        <extracomment>Parameter label: check type 203. Must differ from the other labels of the type.</extracomment>
+        <translation>Rechtschreibfehler</translation>
+    </message>
+    <message id="1708">
+        <source>In Context</source>
+        <extracomment>Option: one of the reference states. Must differ from the others.</extracomment>
+        <translation>Im Kontext</translation>
+    </message>
+    <message id="1709">
+        <source>Out of Context</source>
+        <extracomment>Option: one of the reference states. Must differ from the others.</extracomment>
+        <translation>Außerhalb des Kontexts</translation>
+    </message>
+    <message id="1710">
+        <source>Locked</source>
+        <extracomment>Option: one of the reference states. Must differ from the others.</extracomment>
+        <translation>Gesperrt</translation>
+    </message>
+    <message id="1711">
+        <source>Broken</source>
+        <extracomment>Option: one of the reference states. Must differ from the others.</extracomment>
+        <translation>Unterbrochen</translation>
+    </message>
+    <message id="1712">
+        <source>Dangling</source>
+        <extracomment>Option: one of the reference states. Must differ from the others.</extracomment>
+        <translation>Verwaist</translation>
+    </message>
+    <message id="1713">
+        <source>External References</source>
+        <extracomment>Check name: check type 604; also the caption of its pane.</extracomment>
+        <translation>Externe Referenzen</translation>
+    </message>
+    <message id="1714">
+        <source>External Reference State</source>
+        <extracomment>Parameter label: check type 604. Must differ from the other labels of the type.</extracomment>
+        <translation>Zustand der externen Referenz</translation>
+    </message>
+    <message id="1715">
+        <source>Font (Annotations)</source>
+        <extracomment>Check name: check type 202; also the caption of its pane.</extracomment>
+        <translation>Schriftart (Beschriftungen)</translation>
+    </message>
+    <message id="1716">
+        <source>Text</source>
+        <extracomment>Option: one of the property types. Must differ from the others.</extracomment>
+        <translation>Text</translation>
+    </message>
+    <message id="1717">
+        <source>Number</source>
+        <extracomment>Option: one of the property types. Must differ from the others.</extracomment>
+        <translation>Zahl</translation>
+    </message>
+    <message id="1718">
+        <source>Date</source>
+        <extracomment>Option: one of the property types. Must differ from the others.</extracomment>
+        <translation>Datum</translation>
+    </message>
+    <message id="1719">
+        <source>Yes or No</source>
+        <extracomment>Option: one of the property types. Must differ from the others.</extracomment>
+        <translation>Ja oder Nein</translation>
+    </message>
+    <message id="1720">
+        <source>contains</source>
+        <extracomment>Operator: the text has this part. Reports write it directly in front of the value; no blank at the end.</extracomment>
+        <translation>enthält</translation>
+    </message>
+    <message id="1721">
+        <source>begins with</source>
+        <extracomment>Operator: the text starts so. Reports write it directly in front of the value; no blank at the end.</extracomment>
+        <translation>beginnt mit</translation>
+    </message>
+    <message id="1722">
+        <source>ends with</source>
+        <extracomment>Operator: the text ends so. Reports write it directly in front of the value; no blank at the end.</extracomment>
+        <translation>endet mit</translation>
+    </message>
+    <message id="1723">
+        <source>Custom Properties</source>
+        <extracomment>Check name: check types 104, 105; also the caption of its pane.</extracomment>
+        <translation>Benutzerdefinierte Eigenschaften</translation>
+    </message>
+    <message id="1724">
+        <source>Property Name</source>
+        <extracomment>Parameter label: check types 104, 106. Must differ from the other labels of the type.</extracomment>
+        <translation>Name der Eigenschaft</translation>
+    </message>
+    <message id="1725">
+        <source>Property Type</source>
+        <extracomment>Parameter label: check types 104, 106. Must differ from the other labels of the type.</extracomment>
+        <translation>Typ der Eigenschaft</translation>
+    </message>
+    <message id="1726">
+        <source>Property Value</source>
+        <extracomment>Parameter label: check types 104, 106. Must differ from the other labels of the type.</extracomment>
+        <translation>Wert der Eigenschaft</translation>
+    </message>
+    <message id="1727">
+        <source>Overridden Mass Property</source>
+        <extracomment>Parameter label: check type 118. Must differ from the other labels of the type.</extracomment>
+        <translation>Überschriebene Masseneigenschaft</translation>
+    </message>
+    <message id="1730">
+        <source>Nonstandard Hole Size</source>
+        <extracomment>Parameter label: check type 703. Must differ from the other labels of the type.</extracomment>
+        <translation>Nicht genormte Bohrungsgröße</translation>
+    </message>
+    <message id="1733">
+        <source>Hidden Components</source>
+        <extracomment>Caption: pane of hidden components.</extracomment>
+        <translation>Ausgeblendete Komponenten</translation>
+    </message>
+    <message id="1735">
+        <source>nm</source>
+        <extracomment>Unit: short form, written directly behind a value: nanometer. Do not translate.</extracomment>
+        <translation>nm</translation>
+    </message>
+    <message id="1736">
+        <source>Suppressed Components</source>
+        <extracomment>Check name: check type 606; also the caption of its pane.</extracomment>
+        <translation>Unterdrückte Komponenten</translation>
+    </message>
+    <message id="1737">
+        <source>Suppressed Component</source>
+        <extracomment>Parameter label: check type 606. Must differ from the other labels of the type.</extracomment>
+        <translation>Unterdrückte Komponente</translation>
+    </message>
+    <message id="1738">
+        <source>Suppressed Features</source>
+        <extracomment>Check name: check type 704; also the caption of its pane.</extracomment>
+        <translation>Unterdrückte Features</translation>
+    </message>
+    <message id="1739">
+        <source>Suppressed Feature</source>
+        <extracomment>Parameter label: check type 704. Must differ from the other labels of the type.</extracomment>
+        <translation>Unterdrücktes Feature</translation>
+    </message>
+    <message id="1740">
+        <source>Bend Table</source>
+        <extracomment>Check name: check type 503; also the caption of its pane.</extracomment>
+        <translation>Biegetabelle</translation>
+    </message>
+    <message id="1741">
+        <source>Bend Table File</source>
+        <extracomment>Parameter label: check type 503. Must differ from the other labels of the type.</extracomment>
+        <translation>Biegetabellendatei</translation>
+    </message>
+    <message id="1742">
+        <source>Display Mode</source>
+        <extracomment>Parameter label: check type 312. Must differ from the other labels of the type.</extracomment>
+        <translation>Darstellungsart</translation>
+    </message>
+    <message id="1743">
+        <source>View Display Mode</source>
+        <extracomment>Check name: check type 312; also the caption of its pane.</extracomment>
+        <translation>Darstellungsart der Ansichten</translation>
+    </message>
+    <message id="1744">
+        <source>Wireframe</source>
+        <extracomment>Option: one of the display modes. Must differ from the others. Also names its picture file in a report: unique among all pictures and valid as a file name.</extracomment>
+        <translation>Drahtdarstellung</translation>
+    </message>
+    <message id="1745">
+        <source>Hidden Lines Removed</source>
+        <extracomment>Option: one of the display modes. Must differ from the others. Also names its picture file in a report: unique among all pictures and valid as a file name.</extracomment>
+        <translation>Verdeckte Kanten ausgeblendet</translation>
+    </message>
+    <message id="1746">
+        <source>Hidden Lines Visible</source>
+        <extracomment>Option: one of the display modes. Must differ from the others. Also names its picture file in a report: unique among all pictures and valid as a file name.</extracomment>
+        <translation>Verdeckte Kanten sichtbar</translation>
+    </message>
+    <message id="1747">
+        <source>Shaded</source>
+        <extracomment>Option: one of the display modes. Must differ from the others. Also names its picture file in a report: unique among all pictures and valid as a file name.</extracomment>
+        <translation>Schattiert</translation>
+    </message>
+    <message id="1748">
+        <source>Shaded with Edges</source>
+        <extracomment>Option: one of the display modes. Must differ from the others. Also names its picture file in a report: unique among all pictures and valid as a file name.</extracomment>
+        <translation>Schattiert mit Kanten</translation>
+    </message>
+    <message id="1749">
+        <source>&amp;Learn from Document...</source>
+        <extracomment>Menu: File menu. &amp; stands before the access key, unique in the menu.</extracomment>
+        <translation>Aus Dokument &amp;lernen...</translation>
+    </message>
+    <message id="1752">
+        <source>Error Found</source>
+        <extracomment>Parameter label: check types 602, 701. Must differ from the other labels of the type.</extracomment>
+        <translation>Gefundener Fehler</translation>
+    </message>
+    <message id="1753">
+        <source>Interference</source>
+        <extracomment>Check name: check type 607; also the caption of its pane.</extracomment>
+        <translation>Kollisionen</translation>
+    </message>
+    <message id="1754">
+        <source>Interference Volume</source>
+        <extracomment>Parameter label: check type 607. Must differ from the other labels of the type.</extracomment>
+        <translation>Kollisionsvolumen</translation>
+    </message>
+    <message id="1755">
+        <source>Treat Coincident Faces as Interference</source>
+        <extracomment>Option: one of the interference options. Must differ from the others.</extracomment>
+        <translation>Aufeinanderliegende Flächen als Kollision behandeln</translation>
+    </message>
+    <message id="1756">
+        <source>Include Interference Within Multibody Parts</source>
+        <extracomment>Option: one of the interference options. Must differ from the others.</extracomment>
+        <translation>Kollisionen innerhalb von Mehrkörperteilen einschließen</translation>
+    </message>
+    <message id="1757">
+        <source>Treat Subassemblies as Components</source>
+        <extracomment>Option: one of the interference options. Must differ from the others.</extracomment>
+        <translation>Unterbaugruppen als Komponenten behandeln</translation>
+    </message>
+    <message id="1758">
+        <source>Interference Option</source>
+        <extracomment>Parameter label: check type 607. Must differ from the other labels of the type.</extracomment>
+        <translation>Kollisionsoption</translation>
+    </message>
+    <message id="1759">
+        <source>Extension Line Gap</source>
+        <extracomment>Check name: check type 314; also the caption of its pane.</extracomment>
+        <translation>Abstand der Maßhilfslinien</translation>
+    </message>
+    <message id="1760">
+        <source>Collapse</source>
+        <extracomment>Tooltip: button of a pane that is expanded.</extracomment>
+        <translation>Zuklappen</translation>
+    </message>
+    <message id="1761">
+        <source>Expand</source>
+        <extracomment>Tooltip: button of a pane that is collapsed.</extracomment>
+        <translation>Aufklappen</translation>
+    </message>
+    <message id="1764">
+        <source>No Virtual Sharp</source>
+        <extracomment>Option: one of the virtual sharp displays. Must differ from the others. Also names its picture file in a report: unique among all pictures and valid as a file name.</extracomment>
+        <translation>Ohne virtuelle Ecke</translation>
+    </message>
+    <message id="1765">
+        <source>Plus</source>
+        <extracomment>Option: one of the virtual sharp displays. Must differ from the others. Also names its picture file in a report: unique among all pictures and valid as a file name.</extracomment>
+        <translation>Plus</translation>
+    </message>
+    <message id="1766">
+        <source>Star</source>
+        <extracomment>Option: one of the virtual sharp displays. Must differ from the others. Also names its picture file in a report: unique among all pictures and valid as a file name.</extracomment>
+        <translation>Stern</translation>
+    </message>
+    <message id="1767">
+        <source>Witness Lines</source>
+        <extracomment>Option: one of the virtual sharp displays. Must differ from the others. Also names its picture file in a report: unique among all pictures and valid as a file name.</extracomment>
+        <translation>Maßhilfslinien</translation>
+    </message>
+    <message id="1768">
+        <source>Dot</source>
+        <extracomment>Option: one of the virtual sharp displays. Must differ from the others. Also names its picture file in a report: unique among all pictures and valid as a file name.</extracomment>
+        <translation>Punkt</translation>
+    </message>
+    <message id="1769">
+        <source>No checks could be learned from this document.</source>
+        <extracomment>Message: learning from a document found nothing.</extracomment>
+        <translation>Aus diesem Dokument konnten keine Prüfungen gelernt werden.</translation>
+    </message>
+    <message id="1821">
+        <source>Å</source>
+        <extracomment>Unit: short form, written directly behind a value: angstrom. Do not translate.</extracomment>
+        <translation>Å</translation>
+    </message>
+    <message id="1822">
+        <source>Part Material</source>
+        <extracomment>Check name: check type 501; also the caption of its pane.</extracomment>
+        <translation>Werkstoff des Teils</translation>
+    </message>
+    <message id="1823">
+        <source>Material</source>
+        <extracomment>Parameter label: check types 501, 601. Must differ from the other labels of the type.</extracomment>
+        <translation>Werkstoff</translation>
+    </message>
+    <message id="1824">
+        <source>Component Material</source>
+        <extracomment>Check name: check type 601.</extracomment>
+        <translation>Werkstoff der Komponenten</translation>
+    </message>
+    <message id="1825">
+        <source>ISO</source>
+        <extracomment>Option: one of the drafting standards. Must differ from the others.</extracomment>
+        <translation>ISO</translation>
+    </message>
+    <message id="1826">
+        <source>ANSI</source>
+        <extracomment>Option: one of the drafting standards. Must differ from the others.</extracomment>
+        <translation>ANSI</translation>
+    </message>
+    <message id="1827">
+        <source>GB</source>
+        <extracomment>Option: one of the drafting standards. Must differ from the others.</extracomment>
+        <translation>GB</translation>
+    </message>
+    <message id="1828">
+        <source>DIN</source>
+        <extracomment>Option: one of the drafting standards. Must differ from the others.</extracomment>
+        <translation>DIN</translation>
+    </message>
+    <message id="1829">
+        <source>JIS</source>
+        <extracomment>Option: one of the drafting standards. Must differ from the others.</extracomment>
+        <translation>JIS</translation>
+    </message>
+    <message id="1830">
+        <source>BSI</source>
+        <extracomment>Option: one of the drafting standards. Must differ from the others.</extracomment>
+        <translation>BSI</translation>
+    </message>
+    <message id="1831">
+        <source>GOST</source>
+        <extracomment>Option: one of the drafting standards. Must differ from the others.</extracomment>
+        <translation>GOST</translation>
+    </message>
+    <message id="1832">
+        <source>Open Arrow</source>
+        <extracomment>Option: one of the arrowhead styles. Must differ from the others. Also names its picture file in a report: unique among all pictures and valid as a file name.</extracomment>
+        <translation>Offener Pfeil</translation>
+    </message>
+    <message id="1833">
+        <source>Closed Arrow</source>
+        <extracomment>Option: one of the arrowhead styles. Must differ from the others. Also names its picture file in a report: unique among all pictures and valid as a file name.</extracomment>
+        <translation>Geschlossener Pfeil</translation>
+    </message>
+    <message id="1834">
+        <source>Filled Arrow</source>
+        <extracomment>Option: one of the arrowhead styles. Must differ from the others. Also names its picture file in a report: unique among all pictures and valid as a file name.</extracomment>
+        <translation>Gefüllter Pfeil</translation>
+    </message>
+    <message id="1835">
+        <source>Open Dot</source>
+        <extracomment>Option: one of the arrowhead styles. Must differ from the others. Also names its picture file in a report: unique among all pictures and valid as a file name.</extracomment>
+        <translation>Offener Punkt</translation>
+    </message>
+    <message id="1836">
+        <source>Filled Dot</source>
+        <extracomment>Option: one of the arrowhead styles. Must differ from the others. Also names its picture file in a report: unique among all pictures and valid as a file name.</extracomment>
+        <translation>Gefüllter Punkt</translation>
+    </message>
+    <message id="1837">
+        <source>Oblique Stroke</source>
+        <extracomment>Option: one of the arrowhead styles. Must differ from the others. Also names its picture file in a report: unique among all pictures and valid as a file name.</extracomment>
+        <translation>Schrägstrich</translation>
+    </message>
+    <message id="1838">
+        <source>Open Box</source>
+        <extracomment>Option: one of the arrowhead styles. Must differ from the others. Also names its picture file in a report: unique among all pictures and valid as a file name.</extracomment>
+        <translation>Offenes Quadrat</translation>
+    </message>
+    <message id="1839">
+        <source>Filled Box</source>
+        <extracomment>Option: one of the arrowhead styles. Must differ from the others. Also names its picture file in a report: unique among all pictures and valid as a file name.</extracomment>
+        <translation>Gefülltes Quadrat</translation>
+    </message>
+    <message id="1840">
+        <source>Open Datum Triangle</source>
+        <extracomment>Option: one of the arrowhead styles. Must differ from the others. Also names its picture file in a report: unique among all pictures and valid as a file name.</extracomment>
+        <translation>Offenes Bezugsdreieck</translation>
+    </message>
+    <message id="1841">
+        <source>Filled Datum Triangle</source>
+        <extracomment>Option: one of the arrowhead styles. Must differ from the others. Also names its picture file in a report: unique among all pictures and valid as a file name.</extracomment>
+        <translation>Gefülltes Bezugsdreieck</translation>
+    </message>
+    <message id="1842">
+        <source>No Arrowhead</source>
+        <extracomment>Option: one of the arrowhead styles. Must differ from the others. Also names its picture file in a report: unique among all pictures and valid as a file name.</extracomment>
+        <translation>Ohne Pfeilspitze</translation>
+    </message>
+    <message id="1843">
+        <source>Thin</source>
+        <extracomment>Option: one of the line thicknesses. Must differ from the others. Also names its picture file in a report: unique among all pictures and valid as a file name.</extracomment>
+        <translation>Dünn</translation>
+    </message>
+    <message id="1844">
+        <source>Normal</source>
+        <extracomment>Option: one of the line thicknesses. Must differ from the others. Also names its picture file in a report: unique among all pictures and valid as a file name.</extracomment>
+        <translation>Normal</translation>
+    </message>
+    <message id="1845">
+        <source>Thick</source>
+        <extracomment>Option: one of the line thicknesses. Must differ from the others. Also names its picture file in a report: unique among all pictures and valid as a file name.</extracomment>
+        <translation>Dick</translation>
+    </message>
+    <message id="1846">
+        <source>Thick (2)</source>
+        <extracomment>Option: one of the line thicknesses. Must differ from the others. Also names its picture file in a report: unique among all pictures and valid as a file name.</extracomment>
+        <translation>Dick (2)</translation>
+    </message>
+    <message id="1847">
+        <source>Thick (3)</source>
+        <extracomment>Option: one of the line thicknesses. Must differ from the others. Also names its picture file in a report: unique among all pictures and valid as a file name.</extracomment>
+        <translation>Dick (3)</translation>
+    </message>
+    <message id="1848">
+        <source>Thick (4)</source>
+        <extracomment>Option: one of the line thicknesses. Must differ from the others. Also names its picture file in a report: unique among all pictures and valid as a file name.</extracomment>
+        <translation>Dick (4)</translation>
+    </message>
+    <message id="1849">
+        <source>Thick (5)</source>
+        <extracomment>Option: one of the line thicknesses. Must differ from the others. Also names its picture file in a report: unique among all pictures and valid as a file name.</extracomment>
+        <translation>Dick (5)</translation>
+    </message>
+    <message id="1850">
+        <source>Thick (6)</source>
+        <extracomment>Option: one of the line thicknesses. Must differ from the others. Also names its picture file in a report: unique among all pictures and valid as a file name.</extracomment>
+        <translation>Dick (6)</translation>
+    </message>
+    <message id="1851">
+        <source>Solid</source>
+        <extracomment>Option: one of the line styles. Must differ from the others. Also names its picture file in a report: unique among all pictures and valid as a file name.</extracomment>
+        <translation>Volllinie</translation>
+    </message>
+    <message id="1852">
+        <source>Dashed</source>
+        <extracomment>Option: one of the line styles. Must differ from the others. Also names its picture file in a report: unique among all pictures and valid as a file name.</extracomment>
+        <translation>Strichlinie</translation>
+    </message>
+    <message id="1853">
+        <source>Phantom</source>
+        <extracomment>Option: one of the line styles. Must differ from the others. Also names its picture file in a report: unique among all pictures and valid as a file name.</extracomment>
+        <translation>Strich-Zweipunktlinie</translation>
+    </message>
+    <message id="1854">
+        <source>Chain</source>
+        <extracomment>Option: one of the line styles. Must differ from the others. Also names its picture file in a report: unique among all pictures and valid as a file name.</extracomment>
+        <translation>Strichpunktlinie</translation>
+    </message>
+    <message id="1855">
+        <source>Center</source>
+        <extracomment>Option: one of the line styles. Must differ from the others. Also names its picture file in a report: unique among all pictures and valid as a file name.</extracomment>
+        <translation>Mittellinie</translation>
+    </message>
+    <message id="1856">
+        <source>Stitch</source>
+        <extracomment>Option: one of the line styles. Must differ from the others. Also names its picture file in a report: unique among all pictures and valid as a file name.</extracomment>
+        <translation>Nahtlinie</translation>
+    </message>
+    <message id="1857">
+        <source>Thin-Thick Chain</source>
+        <extracomment>Option: one of the line styles. Must differ from the others. Also names its picture file in a report: unique among all pictures and valid as a file name.</extracomment>
+        <translation>Dünn-dicke Strichpunktlinie</translation>
+    </message>
+    <message id="1864">
+        <source>Drafting Standard</source>
+        <extracomment>Button text: catalogue button of check type 101.</extracomment>
+        <translation>Zeichnungsnorm</translation>
+    </message>
+    <message id="1865">
+        <source>Arrowheads</source>
+        <extracomment>Button text: catalogue button of check types 102, 201, 402.</extracomment>
+        <translation>Pfeilspitzen</translation>
+    </message>
+    <message id="1866">
+        <source>Font</source>
+        <extracomment>Button text: catalogue button of check types 202, 403.</extracomment>
+        <translation>Schriftart</translation>
+    </message>
+    <message id="1867">
+        <source>Custom Properties</source>
+        <extracomment>Button text: catalogue button of check type 104.</extracomment>
+        <translation>Benutzerdefinierte Eigenschaften</translation>
+    </message>
+    <message id="1868">
+        <source>Units</source>
+        <extracomment>Button text: catalogue button of check types 108, 405.</extracomment>
+        <translation>Einheiten</translation>
+    </message>
+    <message id="1869">
+        <source>References Up to Date</source>
+        <extracomment>Button text: catalogue button of check type 107.</extracomment>
+        <translation>Aktualität der Referenzen</translation>
+    </message>
+    <message id="1870">
+        <source>Note Font</source>
+        <extracomment>Button text: catalogue button of check type 109.</extracomment>
+        <translation>Schriftart Hinweistexte</translation>
+    </message>
+    <message id="1871">
+        <source>Dimension Font</source>
+        <extracomment>Button text: catalogue button of check type 111.</extracomment>
+        <translation>Schriftart Maße</translation>
+    </message>
+    <message id="1872">
+        <source>Detail View Label Font</source>
+        <extracomment>Button text: catalogue button of check type 112.</extracomment>
+        <translation>Schriftart Detailansichtstitel</translation>
+    </message>
+    <message id="1873">
+        <source>Section View Label Font</source>
+        <extracomment>Button text: catalogue button of check type 113.</extracomment>
+        <translation>Schriftart Schnittansichtstitel</translation>
+    </message>
+    <message id="1874">
+        <source>Surface Finish Symbol Font</source>
+        <extracomment>Button text: catalogue button of check type 114.</extracomment>
+        <translation>Schriftart Oberflächensymbole</translation>
+    </message>
+    <message id="1875">
+        <source>Weld Symbol Font</source>
+        <extracomment>Button text: catalogue button of check type 115.</extracomment>
+        <translation>Schriftart Schweißsymbole</translation>
+    </message>
+    <message id="1876">
+        <source>Table Font</source>
+        <extracomment>Button text: catalogue button of check type 116.</extracomment>
+        <translation>Schriftart Tabellen</translation>
+    </message>
+    <message id="1877">
+        <source>View Arrow Font</source>
+        <extracomment>Button text: catalogue button of check type 117.</extracomment>
+        <translation>Schriftart Ansichtspfeile</translation>
+    </message>
+    <message id="1878">
+        <source>Balloon Font</source>
+        <extracomment>Button text: catalogue button of check type 110.</extracomment>
+        <translation>Schriftart Positionsnummern</translation>
+    </message>
+    <message id="1879">
+        <source>Geometric Tolerance Datums</source>
+        <extracomment>Button text: catalogue button of check type 301.</extracomment>
+        <translation>Bezüge der Form- und Lagetoleranzen</translation>
+    </message>
+    <message id="1880">
+        <source>Overridden Dimensions</source>
+        <extracomment>Button text: catalogue button of check type 401.</extracomment>
+        <translation>Überschriebene Maße</translation>
+    </message>
+    <message id="1881">
+        <source>Overlapping Dimensions</source>
+        <extracomment>Button text: catalogue button of check type 406.</extracomment>
+        <translation>Überlappende Maße</translation>
+    </message>
+    <message id="1882">
+        <source>Sheet Format</source>
+        <extracomment>Button text: catalogue button of check type 302.</extracomment>
+        <translation>Blattformat</translation>
+    </message>
+    <message id="1883">
+        <source>Layers</source>
+        <extracomment>Button text: catalogue button of check type 304.</extracomment>
+        <translation>Layer</translation>
+    </message>
+    <message id="1884">
+        <source>Overlapping Views</source>
+        <extracomment>Button text: catalogue button of check type 307.</extracomment>
+        <translation>Überlappende Ansichten</translation>
+    </message>
+    <message id="1885">
+        <source>Title Block</source>
+        <extracomment>Button text: catalogue button of check type 308.</extracomment>
+        <translation>Schriftfeld</translation>
+    </message>
+    <message id="1886">
+        <source>Bill of Materials Balloons</source>
+        <extracomment>Button text: catalogue button of check type 309.</extracomment>
+        <translation>Positionsnummern der Stückliste</translation>
+    </message>
+    <message id="1887">
+        <source>Part Material</source>
+        <extracomment>Button text: catalogue button of check type 501.</extracomment>
+        <translation>Werkstoff des Teils</translation>
+    </message>
+    <message id="1888">
+        <source>Component Material</source>
+        <extracomment>Button text: catalogue button of check type 601.</extracomment>
+        <translation>Werkstoff der Komponenten</translation>
+    </message>
+    <message id="1889">
+        <source>Mate Errors</source>
+        <extracomment>Button text: catalogue button of check type 602.</extracomment>
+        <translation>Verknüpfungsfehler</translation>
+    </message>
+    <message id="1890">
+        <source>Fixed Components</source>
+        <extracomment>Button text: catalogue button of check type 603.</extracomment>
+        <translation>Fixierte Komponenten</translation>
+    </message>
+    <message id="1891">
+        <source>External References</source>
+        <extracomment>Button text: catalogue button of check type 604.</extracomment>
+        <translation>Externe Referenzen</translation>
+    </message>
+    <message id="1892">
+        <source>Feature Errors</source>
+        <extracomment>Button text: catalogue button of check type 701.</extracomment>
+        <translation>Featurefehler</translation>
+    </message>
+    <message id="1893">
+        <source>Spelling</source>
+        <extracomment>Button text: catalogue button of check type 203.</extracomment>
+        <translation>Rechtschreibung</translation>
+    </message>
+    <message id="1894">
+        <source>Overridden Mass Properties</source>
+        <extracomment>Button text: catalogue button of check type 118.</extracomment>
+        <translation>Überschriebene Masseneigenschaften</translation>
+    </message>
+    <message id="1895">
+        <source>Standard Hole Sizes</source>
+        <extracomment>Button text: catalogue button of check type 703.</extracomment>
+        <translation>Genormte Bohrungsgrößen</translation>
+    </message>
+    <message id="1896">
+        <source>Geometric Tolerance Font</source>
+        <extracomment>Button text: catalogue button of check type 119.</extracomment>
+        <translation>Schriftart Form- und Lagetoleranzen</translation>
+    </message>
+    <message id="1897">
+        <source>Auxiliary View Label Font</source>
+        <extracomment>Button text: catalogue button of check type 120.</extracomment>
+        <translation>Schriftart Hilfsansichtstitel</translation>
+    </message>
+    <message id="1899">
+        <source>Suppressed Components</source>
+        <extracomment>Button text: catalogue button of check type 606.</extracomment>
+        <translation>Unterdrückte Komponenten</translation>
+    </message>
+    <message id="1900">
+        <source>Suppressed Features</source>
+        <extracomment>Button text: catalogue button of check type 704.</extracomment>
+        <translation>Unterdrückte Features</translation>
+    </message>
+    <message id="1901">
+        <source>Bend Table</source>
+        <extracomment>Button text: catalogue button of check type 503.</extracomment>
+        <translation>Biegetabelle</translation>
+    </message>
+    <message id="1902">
+        <source>View Display Mode</source>
+        <extracomment>Button text: catalogue button of check type 312.</extracomment>
+        <translation>Darstellungsart der Ansichten</translation>
+    </message>
+    <message id="1903">
+        <source>Replaced Dimension Text</source>
+        <extracomment>Button text: catalogue button of check type 407.</extracomment>
+        <translation>Ersetzter Maßtext</translation>
+    </message>
+    <message id="1904">
+        <source>Text Alignment</source>
+        <extracomment>Button text: catalogue button of check type 408.</extracomment>
+        <translation>Textausrichtung</translation>
+    </message>
+    <message id="1905">
+        <source>Precision</source>
+        <extracomment>Button text: catalogue button of check type 409.</extracomment>
+        <translation>Genauigkeit</translation>
+    </message>
+    <message id="1906">
+        <source>Fully Defined Sketches</source>
+        <extracomment>Button text: catalogue button of check type 702.</extracomment>
+        <translation>Vollständig bestimmte Skizzen</translation>
+    </message>
+    <message id="1907">
+        <source>Target Value</source>
+        <extracomment>Heading: column of the correction values on the summary page, and third column of the report (the values). Must serve both. No &amp; and no &lt;.</extracomment>
+        <translation>Zielwert</translation>
+    </message>
+    <message id="1908">
+        <source>Note Font (Document)</source>
+        <extracomment>Check name: check type 109; also the caption of its pane.</extracomment>
+        <translation>Schriftart der Hinweistexte (Dokument)</translation>
+    </message>
+    <message id="1909">
+        <source>Dimension Font (Document)</source>
+        <extracomment>Check name: check type 111; also the caption of its pane.</extracomment>
+        <translation>Schriftart der Maße (Dokument)</translation>
+    </message>
+    <message id="1910">
+        <source>Detail View Label Font (Document)</source>
+        <extracomment>Check name: check type 112; also the caption of its pane.</extracomment>
+        <translation>Schriftart der Detailansichtstitel (Dokument)</translation>
+    </message>
+    <message id="1911">
+        <source>Section View Label Font (Document)</source>
+        <extracomment>Check name: check type 113; also the caption of its pane.</extracomment>
+        <translation>Schriftart der Schnittansichtstitel (Dokument)</translation>
+    </message>
+    <message id="1912">
+        <source>Surface Finish Symbol Font (Document)</source>
+        <extracomment>Check name: check type 114; also the caption of its pane.</extracomment>
+        <translation>Schriftart der Oberflächensymbole (Dokument)</translation>
+    </message>
+    <message id="1913">
+        <source>Weld Symbol Font (Document)</source>
+        <extracomment>Check name: check type 115; also the caption of its pane.</extracomment>
+        <translation>Schriftart der Schweißsymbole (Dokument)</translation>
+    </message>
+    <message id="1914">
+        <source>Table Font (Document)</source>
+        <extracomment>Check name: check type 116; also the caption of its pane.</extracomment>
+        <translation>Schriftart der Tabellen (Dokument)</translation>
+    </message>
+    <message id="1915">
+        <source>View Arrow Font (Document)</source>
+        <extracomment>Check name: check type 117; also the caption of its pane.</extracomment>
+        <translation>Schriftart der Ansichtspfeile (Dokument)</translation>
+    </message>
+    <message id="1916">
+        <source>Balloon Font (Document)</source>
+        <extracomment>Check name: check type 110; also the caption of its pane.</extracomment>
+        <translation>Schriftart der Positionsnummern (Dokument)</translation>
+    </message>
+    <message id="1917">
+        <source>The folder could not be created: </source>
+        <extracomment>Message: making the report's folder of pictures failed. A path follows the text: keep the blank at its end.</extracomment>
+        <translation>Der Ordner konnte nicht angelegt werden: </translation>
+    </message>
+    <message id="1919">
+        <source>Under Defined</source>
+        <extracomment>Option: one of the sketch states. Must differ from the others.</extracomment>
+        <translation>Unterbestimmt</translation>
+    </message>
+    <message id="1920">
+        <source>Fully Defined</source>
+        <extracomment>Option: one of the sketch states. Must differ from the others.</extracomment>
+        <translation>Vollständig bestimmt</translation>
+    </message>
+    <message id="1921">
+        <source>Over Defined</source>
+        <extracomment>Option: one of the sketch states. Must differ from the others.</extracomment>
+        <translation>Überbestimmt</translation>
+    </message>
+    <message id="1922">
+        <source>Sketch State</source>
+        <extracomment>Parameter label: check type 702. Must differ from the other labels of the type.</extracomment>
+        <translation>Zustand der Skizze</translation>
+    </message>
+    <message id="1923">
+        <source>Create a new standard</source>
+        <extracomment>Caption: link on the welcome page.</extracomment>
+        <translation>Neuen Standard anlegen</translation>
+    </message>
+    <message id="1924">
+        <source>Open an existing standard</source>
+        <extracomment>Caption: link on the welcome page.</extracomment>
+        <translation>Vorhandenen Standard öffnen</translation>
+    </message>
+    <message id="1925">
+        <source>Title Block</source>
+        <extracomment>Check name: check types 308, 310; also the caption of its pane.</extracomment>
+        <translation>Schriftfeld</translation>
+    </message>
+    <message id="1926">
+        <source>Title Block Field Name</source>
+        <extracomment>Parameter label: check types 308, 311. Must differ from the other labels of the type.</extracomment>
+        <translation>Name des Schriftfeldeintrags</translation>
+    </message>
+    <message id="1927">
+        <source>Title Block Field Type</source>
+        <extracomment>Parameter label: check type 308. Must differ from the other labels of the type.</extracomment>
+        <translation>Typ des Schriftfeldeintrags</translation>
+    </message>
+    <message id="1928">
+        <source>Title Block Field Value</source>
+        <extracomment>Parameter label: check type 308. Must differ from the other labels of the type.</extracomment>
+        <translation>Wert des Schriftfeldeintrags</translation>
+    </message>
+    <message id="1929">
+        <source>Title Block Field Remark</source>
+        <extracomment>Parameter label: check type 308. Must differ from the other labels of the type.</extracomment>
+        <translation>Bemerkung zum Schriftfeldeintrag</translation>
+    </message>
+    <message id="1930">
+        <source>Custom Size</source>
+        <extracomment>Option: one of the sheet sizes. Must differ from the others.</extracomment>
+        <translation>Benutzerdefinierte Größe</translation>
+    </message>
+    <message id="1931">
+        <source>Unknown</source>
+        <extracomment>Option: one of the sketch states. Must differ from the others.</extracomment>
+        <translation>Unbekannt</translation>
+    </message>
+    <message id="1932">
+        <source>No Solution Found</source>
+        <extracomment>Option: one of the sketch states. Must differ from the others.</extracomment>
+        <translation>Keine Lösung gefunden</translation>
+    </message>
+    <message id="1933">
+        <source>Invalid Solution Found</source>
+        <extracomment>Option: one of the sketch states. Must differ from the others.</extracomment>
+        <translation>Ungültige Lösung gefunden</translation>
+    </message>
+    <message id="1934">
+        <source>Automatic Solve Off</source>
+        <extracomment>Option: one of the sketch states. Must differ from the others.</extracomment>
+        <translation>Automatische Berechnung ausgeschaltet</translation>
+    </message>
+    <message id="1935">
+        <source>Learn about Ruleward</source>
+        <extracomment>Caption: link on the welcome page; opens the help.</extracomment>
+        <translation>Ruleward kennenlernen</translation>
+    </message>
+    <message id="1936">
+        <source>Reference Status</source>
+        <extracomment>Parameter label: check type 107. Must differ from the other labels of the type.</extracomment>
+        <translation>Status der Referenz</translation>
+    </message>
+    <message id="1937">
+        <source> already exists in this standard. Do you want to replace it?</source>
+        <extracomment>Question: Yes/No, on pasting a check of a type that the standard has. The name of the check stands in front of the text: keep the blank at its beginning.</extracomment>
+        <translation> ist in diesem Standard bereits vorhanden. Möchten Sie diese Prüfung ersetzen?</translation>
+    </message>
+    <message id="1938">
+        <source>Ruleward Builder</source>
+        <extracomment>Title: name of the application, shown as the title of message boxes.</extracomment>
+        <translation>Ruleward Builder</translation>
+    </message>
+    <message id="1940">
+        <source>values</source>
+        <extracomment>Other: follows a count and a blank, as in "3 values", where a cell holds several pictures or colors.</extracomment>
+        <translation>Werte</translation>
+    </message>
+    <message id="1941">
+        <source>Operator</source>
+        <extracomment>Heading: grids of custom properties and title block fields.</extracomment>
+        <translation>Operator</translation>
+    </message>
+    <message id="1942">
+        <source>Value</source>
+        <extracomment>Heading: grids of custom properties and title block fields.</extracomment>
+        <translation>Wert</translation>
+    </message>
+    <message id="1943">
+        <source>Name</source>
+        <extracomment>Heading: grids of custom properties, title block fields, custom checks and layers.</extracomment>
+        <translation>Name</translation>
+    </message>
+    <message id="1944">
+        <source>Ruleward Report</source>
+        <extracomment>Title: title of the report page. No &amp; and no &lt;.</extracomment>
+        <translation>Ruleward-Bericht</translation>
+    </message>
+    <message id="1945">
+        <source>Ruleward Standard</source>
+        <extracomment>Title: main heading of the report. No &amp; and no &lt;.</extracomment>
+        <translation>Ruleward-Standard</translation>
+    </message>
+    <message id="1946">
+        <source>Name</source>
+        <extracomment>Heading: label in the report; name of the standard. No &amp; and no &lt;.</extracomment>
+        <translation>Name</translation>
+    </message>
+    <message id="1947">
+        <source>Created By</source>
+        <extracomment>Heading: label in the report; author of the standard. No &amp; and no &lt;.</extracomment>
+        <translation>Erstellt von</translation>
+    </message>
+    <message id="1948">
+        <source>Created On</source>
+        <extracomment>Heading: label in the report; day the standard was made. No &amp; and no &lt;.</extracomment>
+        <translation>Erstellt am</translation>
+    </message>
+    <message id="1949">
+        <source>Overridden Mass Properties</source>
+        <extracomment>Check name: check type 118; also the caption of its pane.</extracomment>
+        <translation>Überschriebene Masseneigenschaften</translation>
+    </message>
+    <message id="1955">
+        <source>Color</source>
+        <extracomment>Heading: layer grid.</extracomment>
+        <translation>Farbe</translation>
+    </message>
+    <message id="1957">
+        <source>Dangling Dimensions</source>
+        <extracomment>Button text: catalogue button of check type 313.</extracomment>
+        <translation>Verwaiste Maße</translation>
+    </message>
+    <message id="1958">
+        <source>Dangling Dimensions</source>
+        <extracomment>Check name: check type 313; also the caption of its pane.</extracomment>
+        <translation>Verwaiste Maße</translation>
+    </message>
+    <message id="1959">
+        <source>Custom Checks</source>
+        <extracomment>Button text: catalogue button of check type 121.</extracomment>
+        <translation>Benutzerdefinierte Prüfungen</translation>
+    </message>
+    <message id="1960">
+        <source>Line Style</source>
+        <extracomment>Heading: layer grid.</extracomment>
+        <translation>Linienart</translation>
+    </message>
+    <message id="1961">
+        <source>Line Thickness</source>
+        <extracomment>Heading: layer grid.</extracomment>
+        <translation>Linienstärke</translation>
+    </message>
+    <message id="1963">
+        <source>Type</source>
+        <extracomment>Heading: grids of custom properties and title block fields.</extracomment>
+        <translation>Typ</translation>
+    </message>
+    <message id="1964">
+        <source>Custom Checks</source>
+        <extracomment>Check name: check types 121, 122; also the caption of its pane.</extracomment>
+        <translation>Benutzerdefinierte Prüfungen</translation>
+    </message>
+    <message id="1965">
+        <source>Interference</source>
+        <extracomment>Button text: catalogue button of check type 607.</extracomment>
+        <translation>Kollisionen</translation>
+    </message>
+    <message id="1967">
+        <source>Extension Line Gap</source>
+        <extracomment>Button text: catalogue button of check type 314.</extracomment>
+        <translation>Abstand der Maßhilfslinien</translation>
+    </message>
+    <message id="1968">
+        <source>Required Value</source>
+        <extracomment>Heading: summary page; the values that a check asks for.</extracomment>
+        <translation>Sollwert</translation>
+    </message>
+    <message id="1973">
+        <source>Title Block Field</source>
+        <extracomment>Check name: check type 311; occurs in files only.</extracomment>
+        <translation>Schriftfeldeintrag</translation>
+    </message>
+    <message id="1974">
+        <source>A value can contain only one decimal point.</source>
+        <extracomment>Message: a second decimal point in one value of a list or range.</extracomment>
+        <translation>Ein Wert darf nur einen Dezimalpunkt enthalten.</translation>
+    </message>
+    <message id="1975">
+        <source>Enter a value between the two commas.</source>
+        <extracomment>Message: two commas in a row.</extracomment>
+        <translation>Geben Sie zwischen den beiden Kommas einen Wert ein.</translation>
+    </message>
+    <message id="1976">
+        <source>The text cannot begin with a comma. Enter a value first.</source>
+        <extracomment>Message: a comma at the very start.</extracomment>
+        <translation>Der Text darf nicht mit einem Komma beginnen. Geben Sie zuerst einen Wert ein.</translation>
+    </message>
+    <message id="1977">
+        <source>This character is not allowed. Enter digits and, if needed, a decimal point.</source>
+        <extracomment>Message: a character that is not allowed in a value box.</extracomment>
+        <translation>Dieses Zeichen ist nicht erlaubt. Geben Sie Ziffern und bei Bedarf einen Dezimalpunkt ein.</translation>
+    </message>
+    <message id="1978">
+        <source>Enter only one value for this operator, with no more than one decimal point.</source>
+        <extracomment>Message: a second decimal point in a single value, or more than one date where one is expected.</extracomment>
+        <translation>Geben Sie für diesen Operator nur einen Wert ein, mit höchstens einem Dezimalpunkt.</translation>
+    </message>
+    <message id="1979">
+        <source>Enter no more than two values for a range.</source>
+        <extracomment>Message: a second comma in a range, or more than two dates in a range.</extracomment>
+        <translation>Geben Sie für einen Bereich höchstens zwei Werte ein.</translation>
+    </message>
+    <message id="1980">
+        <source>Select a valid operator first.</source>
+        <extracomment>Message: no operator chosen, or an operator text that is not known.</extracomment>
+        <translation>Wählen Sie zuerst einen gültigen Operator aus.</translation>
+    </message>
+    <message id="1983">
+        <source>Documents</source>
+        <extracomment>Tooltip: tab of a check group.</extracomment>
+        <translation>Dokumente</translation>
+    </message>
+    <message id="1984">
+        <source>Annotations</source>
+        <extracomment>Tooltip: tab of a check group.</extracomment>
+        <translation>Beschriftungen</translation>
+    </message>
+    <message id="1985">
+        <source>Dimensions</source>
+        <extracomment>Tooltip: tab of a check group.</extracomment>
+        <translation>Maße</translation>
+    </message>
+    <message id="1986">
+        <source>Drawings</source>
+        <extracomment>Tooltip: tab of a check group.</extracomment>
+        <translation>Zeichnungen</translation>
+    </message>
+    <message id="1987">
+        <source>Parts</source>
+        <extracomment>Tooltip: tab of a check group.</extracomment>
+        <translation>Teile</translation>
+    </message>
+    <message id="1988">
+        <source>Assemblies</source>
+        <extracomment>Tooltip: tab of a check group.</extracomment>
+        <translation>Baugruppen</translation>
+    </message>
+    <message id="1989">
+        <source>Features</source>
+        <extracomment>Tooltip: tab of a check group.</extracomment>
+        <translation>Features</translation>
+    </message>
+    <message id="1993">
+        <source>Online tutorial</source>
+        <extracomment>Caption: link on the welcome page.</extracomment>
+        <translation>Online-Lernprogramm</translation>
+    </message>
+    <message id="1995">
+        <source>Standard Hole Sizes</source>
+        <extracomment>Check name: check type 703; also the caption of its pane.</extracomment>
+        <translation>Genormte Bohrungsgrößen</translation>
+    </message>
+    <message id="1997">
+        <source>µm</source>
+        <extracomment>Unit: short form, written directly behind a value: micron. Do not translate.</extracomment>
+        <translation>µm</translation>
+    </message>
+    <message id="1998">
+        <source>Geometric tolerances must refer to existing datums.</source>
+        <extracomment>Summary: what check type 301 asks for, on the summary page and in the report.</extracomment>
+        <translation>Form- und Lagetoleranzen müssen auf vorhandene Bezüge verweisen.</translation>
+    </message>
+    <message id="1999">
+        <source>All sketches must be fully defined.</source>
+        <extracomment>Summary: what check type 702 asks for, on the summary page and in the report.</extracomment>
+        <translation>Alle Skizzen müssen vollständig bestimmt sein.</translation>
+    </message>
+    <message id="2000">
+        <source>All external references of the document must be up to date.</source>
+        <extracomment>Summary: what check type 107 asks for, on the summary page and in the report.</extracomment>
+        <translation>Alle externen Referenzen des Dokuments müssen aktuell sein.</translation>
+    </message>
+    <message id="2001">
+        <source>The part must not contain feature errors.</source>
+        <extracomment>Summary: what check type 701 asks for, on the summary page and in the report.</extracomment>
+        <translation>Das Teil darf keine Featurefehler enthalten.</translation>
+    </message>
+    <message id="2002">
+        <source>Dimensions must not overlap.</source>
+        <extracomment>Summary: what check type 406 asks for, on the summary page and in the report.</extracomment>
+        <translation>Maße dürfen sich nicht überlappen.</translation>
+    </message>
+    <message id="2003">
+        <source>Dimension values must not be overridden.</source>
+        <extracomment>Summary: what check type 401 asks for, on the summary page and in the report.</extracomment>
+        <translation>Maßwerte dürfen nicht überschrieben sein.</translation>
+    </message>
+    <message id="2004">
+        <source>The assembly must not contain mate errors.</source>
+        <extracomment>Summary: what check type 602 asks for, on the summary page and in the report.</extracomment>
+        <translation>Die Baugruppe darf keine Verknüpfungsfehler enthalten.</translation>
+    </message>
+    <message id="2005">
+        <source>Every component in the bill of materials must have a balloon.</source>
+        <extracomment>Summary: what check type 309 asks for, on the summary page and in the report.</extracomment>
+        <translation>Jede Komponente der Stückliste muss eine Positionsnummer haben.</translation>
+    </message>
+    <message id="2006">
+        <source>Drawing views must not overlap.</source>
+        <extracomment>Summary: what check type 307 asks for, on the summary page and in the report.</extracomment>
+        <translation>Zeichnungsansichten dürfen sich nicht überlappen.</translation>
+    </message>
+    <message id="2007">
+        <source>No material database was found in this folder. Select another folder.</source>
+        <extracomment>Message: the chosen folder holds no material database (.kvmat). May follow a quoted database name and a comma.</extracomment>
+        <translation>In diesem Ordner wurde keine Werkstoffdatenbank gefunden. Wählen Sie einen anderen Ordner aus.</translation>
+    </message>
+    <message id="2008">
+        <source>Material Database</source>
+        <extracomment>Parameter label: check types 501, 601. Must differ from the other labels of the type.</extracomment>
+        <translation>Werkstoffdatenbank</translation>
+    </message>
+    <message id="2009">
+        <source>A material of this check was not found in the material database. Do you want to continue?</source>
+        <extracomment>Question: Yes/No, while a material check is shown.</extracomment>
+        <translation>Ein Werkstoff dieser Prüfung wurde in der Werkstoffdatenbank nicht gefunden. Möchten Sie fortfahren?</translation>
+    </message>
+    <message id="2010">
+        <source>mm</source>
+        <extracomment>Unit: short form, written directly behind a value: millimeter. Do not translate.</extracomment>
+        <translation>mm</translation>
+    </message>
+    <message id="2011">
+        <source>cm</source>
+        <extracomment>Unit: short form, written directly behind a value: centimeter. Do not translate.</extracomment>
+        <translation>cm</translation>
+    </message>
+    <message id="2012">
+        <source>m</source>
+        <extracomment>Unit: short form, written directly behind a value: meter. Do not translate.</extracomment>
+        <translation>m</translation>
+    </message>
+    <message id="2013">
+        <source>µin</source>
+        <extracomment>Unit: short form, written directly behind a value: microinch. Do not translate.</extracomment>
+        <translation>µin</translation>
+    </message>
+    <message id="2014">
+        <source>mil</source>
+        <extracomment>Unit: short form, written directly behind a value: mil. Do not translate.</extracomment>
+        <translation>mil</translation>
+    </message>
+    <message id="2015">
+        <source>in</source>
+        <extracomment>Unit: short form, written directly behind a value: inch. Do not translate.</extracomment>
+        <translation>in</translation>
+    </message>
+    <message id="2016">
+        <source>ft</source>
+        <extracomment>Unit: short form, written directly behind a value: foot. Do not translate.</extracomment>
+        <translation>ft</translation>
+    </message>
+    <message id="2017">
+        <source>Component Material</source>
+        <extracomment>Caption: pane of check type 601.</extracomment>
+        <translation>Werkstoff der Komponenten</translation>
+    </message>
+    <message id="2024">
+        <source>Close &amp;All</source>
+        <extracomment>Menu: Window menu. &amp; stands before the access key, unique in the menu.</extracomment>
+        <translation>Alle &amp;schließen</translation>
+    </message>
+    <message id="2034">
+        <source>Select a row to remove.</source>
+        <extracomment>Message: remove row was pressed without a row selected.</extracomment>
+        <translation>Wählen Sie eine Zeile aus, die entfernt werden soll.</translation>
+    </message>
+    <message id="2035">
+        <source>Enter the name of the title block field first.</source>
+        <extracomment>Message: another cell of a title block row was entered before its name.</extracomment>
+        <translation>Geben Sie zuerst den Namen des Schriftfeldeintrags ein.</translation>
+    </message>
+    <message id="2036">
+        <source>Select a type first.</source>
+        <extracomment>Message: the operator or value cell was entered before the type.</extracomment>
+        <translation>Wählen Sie zuerst einen Typ aus.</translation>
+    </message>
+    <message id="2037">
+        <source>Enter the name of the property first.</source>
+        <extracomment>Message: another cell of a custom property row was entered before its name.</extracomment>
+        <translation>Geben Sie zuerst den Namen der Eigenschaft ein.</translation>
+    </message>
+    <message id="2038">
+        <source>This name is already used. Enter another name.</source>
+        <extracomment>Message: duplicate name in a grid of properties, title block fields, custom checks or layers.</extracomment>
+        <translation>Dieser Name ist bereits vergeben. Geben Sie einen anderen Namen ein.</translation>
+    </message>
+    <message id="2040">
+        <source>The file cannot be opened because it is not a valid standard.</source>
+        <extracomment>Message: the file cannot be unpacked, or its content cannot be read.</extracomment>
+        <translation>Die Datei kann nicht geöffnet werden, weil sie kein gültiger Standard ist.</translation>
+    </message>
+    <message id="2043">
+        <source>Enter a value between 0.000001 and 1000000.</source>
+        <extracomment>Message: a plain number out of bounds. Keep the figures.</extracomment>
+        <translation>Geben Sie einen Wert zwischen 0.000001 und 1000000 ein.</translation>
+    </message>
+    <message id="2044">
+        <source>Enter a valid date in the form MM/DD/YYYY.</source>
+        <extracomment>Message: a date that is not valid. The order is month, day, year.</extracomment>
+        <translation>Geben Sie ein gültiges Datum in der Form MM/TT/JJJJ ein.</translation>
+    </message>
+    <message id="2045">
+        <source>D&amp;ocuments</source>
+        <extracomment>Menu: submenu of the Checks menu. &amp; stands before the access key, unique in the menu.</extracomment>
+        <translation>&amp;Dokumente</translation>
+    </message>
+    <message id="2046">
+        <source>&amp;Drafting Standard</source>
+        <extracomment>Menu: Checks &gt; Documents menu. &amp; stands before the access key, unique in the menu.</extracomment>
+        <translation>&amp;Zeichnungsnorm</translation>
+    </message>
+    <message id="2047">
+        <source>&amp;Arrowheads</source>
+        <extracomment>Menu: Checks &gt; Documents menu. &amp; stands before the access key, unique in the menu.</extracomment>
+        <translation>&amp;Pfeilspitzen</translation>
+    </message>
+    <message id="2048">
+        <source>&amp;Note Font</source>
+        <extracomment>Menu: Checks &gt; Documents menu. &amp; stands before the access key, unique in the menu.</extracomment>
+        <translation>Schriftart &amp;Hinweistexte</translation>
+    </message>
+    <message id="2049">
+        <source>D&amp;imension Font</source>
+        <extracomment>Menu: Checks &gt; Documents menu. &amp; stands before the access key, unique in the menu.</extracomment>
+        <translation>Schriftart &amp;Maße</translation>
+    </message>
+    <message id="2050">
+        <source>Detail View &amp;Label Font</source>
+        <extracomment>Menu: Checks &gt; Documents menu. &amp; stands before the access key, unique in the menu.</extracomment>
+        <translation>Schriftart &amp;Detailansichtstitel</translation>
+    </message>
+    <message id="2051">
+        <source>Secti&amp;on View Label Font</source>
+        <extracomment>Menu: Checks &gt; Documents menu. &amp; stands before the access key, unique in the menu.</extracomment>
+        <translation>Schriftart S&amp;chnittansichtstitel</translation>
+    </message>
+    <message id="2052">
+        <source>Weld S&amp;ymbol Font</source>
+        <extracomment>Menu: Checks &gt; Documents menu. &amp; stands before the access key, unique in the menu.</extracomment>
+        <translation>Schriftart Sch&amp;weißsymbole</translation>
+    </message>
+    <message id="2053">
+        <source>Surfac&amp;e Finish Symbol Font</source>
+        <extracomment>Menu: Checks &gt; Documents menu. &amp; stands before the access key, unique in the menu.</extracomment>
+        <translation>Schriftart Oberflächens&amp;ymbole</translation>
+    </message>
+    <message id="2054">
+        <source>&amp;Balloon Font</source>
+        <extracomment>Menu: Checks &gt; Documents menu. &amp; stands before the access key, unique in the menu.</extracomment>
+        <translation>Schriftart P&amp;ositionsnummern</translation>
+    </message>
+    <message id="2055">
+        <source>Vie&amp;w Arrow Font</source>
+        <extracomment>Menu: Checks &gt; Documents menu. &amp; stands before the access key, unique in the menu.</extracomment>
+        <translation>Schriftart Ansichtspfei&amp;le</translation>
+    </message>
+    <message id="2056">
+        <source>&amp;Table Font</source>
+        <extracomment>Menu: Checks &gt; Documents menu. &amp; stands before the access key, unique in the menu.</extracomment>
+        <translation>Schriftart &amp;Tabellen</translation>
+    </message>
+    <message id="2057">
+        <source>Custom &amp;Properties</source>
+        <extracomment>Menu: Checks &gt; Documents menu. &amp; stands before the access key, unique in the menu.</extracomment>
+        <translation>&amp;Benutzerdefinierte Eigenschaften</translation>
+    </message>
+    <message id="2058">
+        <source>&amp;References Up to Date</source>
+        <extracomment>Menu: Checks &gt; Documents menu. &amp; stands before the access key, unique in the menu.</extracomment>
+        <translation>&amp;Aktualität der Referenzen</translation>
+    </message>
+    <message id="2059">
+        <source>&amp;Help</source>
+        <extracomment>Menu: title in the menu bar. &amp; stands before the access key, unique in the menu.</extracomment>
+        <translation>&amp;Hilfe</translation>
+    </message>
+    <message id="2060">
+        <source>&amp;Units</source>
+        <extracomment>Menu: Checks &gt; Documents menu. &amp; stands before the access key, unique in the menu.</extracomment>
+        <translation>&amp;Einheiten</translation>
+    </message>
+    <message id="2061">
+        <source>&amp;Annotations</source>
+        <extracomment>Menu: submenu of the Checks menu. &amp; stands before the access key, unique in the menu.</extracomment>
+        <translation>&amp;Beschriftungen</translation>
+    </message>
+    <message id="2062">
+        <source>&amp;Arrowheads</source>
+        <extracomment>Menu: Checks &gt; Annotations menu. &amp; stands before the access key, unique in the menu.</extracomment>
+        <translation>&amp;Pfeilspitzen</translation>
+    </message>
+    <message id="2063">
+        <source>&amp;Font</source>
+        <extracomment>Menu: Checks &gt; Annotations menu. &amp; stands before the access key, unique in the menu.</extracomment>
+        <translation>&amp;Schriftart</translation>
+    </message>
+    <message id="2064">
+        <source>&amp;Geometric Tolerance Datums</source>
+        <extracomment>Menu: Checks &gt; Annotations menu. &amp; stands before the access key, unique in the menu.</extracomment>
+        <translation>&amp;Bezüge der Form- und Lagetoleranzen</translation>
+    </message>
+    <message id="2065">
+        <source>&amp;Dimensions</source>
+        <extracomment>Menu: submenu of the Checks menu. &amp; stands before the access key, unique in the menu.</extracomment>
+        <translation>&amp;Maße</translation>
+    </message>
+    <message id="2066">
+        <source>Overridden &amp;Dimensions</source>
+        <extracomment>Menu: Checks &gt; Dimensions menu. &amp; stands before the access key, unique in the menu.</extracomment>
+        <translation>Überschriebene &amp;Maße</translation>
+    </message>
+    <message id="2067">
+        <source>&amp;Arrowheads</source>
+        <extracomment>Menu: Checks &gt; Dimensions menu. &amp; stands before the access key, unique in the menu.</extracomment>
+        <translation>&amp;Pfeilspitzen</translation>
+    </message>
+    <message id="2068">
+        <source>&amp;Font</source>
+        <extracomment>Menu: Checks &gt; Dimensions menu. &amp; stands before the access key, unique in the menu.</extracomment>
+        <translation>&amp;Schriftart</translation>
+    </message>
+    <message id="2069">
+        <source>&amp;Units</source>
+        <extracomment>Menu: Checks &gt; Dimensions menu. &amp; stands before the access key, unique in the menu.</extracomment>
+        <translation>&amp;Einheiten</translation>
+    </message>
+    <message id="2070">
+        <source>&amp;Overlapping Dimensions</source>
+        <extracomment>Menu: Checks &gt; Dimensions menu. &amp; stands before the access key, unique in the menu.</extracomment>
+        <translation>Ü&amp;berlappende Maße</translation>
+    </message>
+    <message id="2071">
+        <source>D&amp;rawings</source>
+        <extracomment>Menu: submenu of the Checks menu. &amp; stands before the access key, unique in the menu.</extracomment>
+        <translation>&amp;Zeichnungen</translation>
+    </message>
+    <message id="2072">
+        <source>&amp;Sheet Format</source>
+        <extracomment>Menu: Checks &gt; Drawings menu. &amp; stands before the access key, unique in the menu.</extracomment>
+        <translation>&amp;Blattformat</translation>
+    </message>
+    <message id="2073">
+        <source>&amp;Layers</source>
+        <extracomment>Menu: Checks &gt; Drawings menu. &amp; stands before the access key, unique in the menu.</extracomment>
+        <translation>&amp;Layer</translation>
+    </message>
+    <message id="2074">
+        <source>&amp;Overlapping Views</source>
+        <extracomment>Menu: Checks &gt; Drawings menu. &amp; stands before the access key, unique in the menu.</extracomment>
+        <translation>Überlappende &amp;Ansichten</translation>
+    </message>
+    <message id="2075">
+        <source>&amp;Title Block</source>
+        <extracomment>Menu: Checks &gt; Drawings menu. &amp; stands before the access key, unique in the menu.</extracomment>
+        <translation>&amp;Schriftfeld</translation>
+    </message>
+    <message id="2076">
+        <source>&amp;Bill of Materials Balloons</source>
+        <extracomment>Menu: Checks &gt; Drawings menu. &amp; stands before the access key, unique in the menu.</extracomment>
+        <translation>&amp;Positionsnummern der Stückliste</translation>
+    </message>
+    <message id="2077">
+        <source>&amp;Parts</source>
+        <extracomment>Menu: submenu of the Checks menu. &amp; stands before the access key, unique in the menu.</extracomment>
+        <translation>&amp;Teile</translation>
+    </message>
+    <message id="2078">
+        <source>&amp;Part Material</source>
+        <extracomment>Menu: Checks &gt; Parts menu. &amp; stands before the access key, unique in the menu.</extracomment>
+        <translation>&amp;Werkstoff des Teils</translation>
+    </message>
+    <message id="2079">
+        <source>A&amp;ssemblies</source>
+        <extracomment>Menu: submenu of the Checks menu. &amp; stands before the access key, unique in the menu.</extracomment>
+        <translation>Ba&amp;ugruppen</translation>
+    </message>
+    <message id="2080">
+        <source>&amp;Component Material</source>
+        <extracomment>Menu: Checks &gt; Assemblies menu. &amp; stands before the access key, unique in the menu.</extracomment>
+        <translation>&amp;Werkstoff der Komponenten</translation>
+    </message>
+    <message id="2081">
+        <source>Mate &amp;Errors</source>
+        <extracomment>Menu: Checks &gt; Assemblies menu. &amp; stands before the access key, unique in the menu.</extracomment>
+        <translation>&amp;Verknüpfungsfehler</translation>
+    </message>
+    <message id="2082">
+        <source>&amp;Fixed Components</source>
+        <extracomment>Menu: Checks &gt; Assemblies menu. &amp; stands before the access key, unique in the menu.</extracomment>
+        <translation>&amp;Fixierte Komponenten</translation>
+    </message>
+    <message id="2083">
+        <source>External &amp;References</source>
+        <extracomment>Menu: Checks &gt; Assemblies menu. &amp; stands before the access key, unique in the menu.</extracomment>
+        <translation>&amp;Externe Referenzen</translation>
+    </message>
+    <message id="2084">
+        <source>&amp;Features</source>
+        <extracomment>Menu: submenu of the Checks menu. &amp; stands before the access key, unique in the menu.</extracomment>
+        <translation>&amp;Features</translation>
+    </message>
+    <message id="2085">
+        <source>Feature &amp;Errors</source>
+        <extracomment>Menu: Checks &gt; Features menu. &amp; stands before the access key, unique in the menu.</extracomment>
+        <translation>&amp;Featurefehler</translation>
+    </message>
+    <message id="2086">
+        <source>Fully &amp;Defined Sketches</source>
+        <extracomment>Menu: Checks &gt; Features menu. &amp; stands before the access key, unique in the menu.</extracomment>
+        <translation>&amp;Vollständig bestimmte Skizzen</translation>
+    </message>
+    <message id="2087">
+        <source>&amp;New&#9;Ctrl+N</source>
+        <extracomment>Menu: File menu. &amp; stands before the access key, unique in the menu. Keep the tab and the shortcut behind it.</extracomment>
+        <translation>&amp;Neu&#9;Ctrl+N</translation>
+    </message>
+    <message id="2088">
+        <source>&amp;Open...&#9;Ctrl+O</source>
+        <extracomment>Menu: File menu. &amp; stands before the access key, unique in the menu. Keep the tab and the shortcut behind it.</extracomment>
+        <translation>Ö&amp;ffnen...&#9;Ctrl+O</translation>
+    </message>
+    <message id="2089">
+        <source>&amp;Save&#9;Ctrl+S</source>
+        <extracomment>Menu: File menu. &amp; stands before the access key, unique in the menu. Keep the tab and the shortcut behind it.</extracomment>
+        <translation>&amp;Speichern&#9;Ctrl+S</translation>
+    </message>
+    <message id="2090">
+        <source>&amp;Print...&#9;Ctrl+P</source>
+        <extracomment>Menu: File menu. &amp; stands before the access key, unique in the menu. Keep the tab and the shortcut behind it.</extracomment>
+        <translation>&amp;Drucken...&#9;Ctrl+P</translation>
+    </message>
+    <message id="2091">
+        <source>&amp;Close</source>
+        <extracomment>Menu: File menu. &amp; stands before the access key, unique in the menu.</extracomment>
+        <translation>S&amp;chließen</translation>
+    </message>
+    <message id="2092">
+        <source>Save &amp;As...</source>
+        <extracomment>Menu: File menu. &amp; stands before the access key, unique in the menu.</extracomment>
+        <translation>Speichern &amp;unter...</translation>
+    </message>
+    <message id="2093">
+        <source>Print Pre&amp;view</source>
+        <extracomment>Menu: File menu. &amp; stands before the access key, unique in the menu. Always disabled.</extracomment>
+        <translation>Druck&amp;vorschau</translation>
+    </message>
+    <message id="2094">
+        <source>Print Set&amp;up...</source>
+        <extracomment>Menu: File menu. &amp; stands before the access key, unique in the menu.</extracomment>
+        <translation>Drucker ein&amp;richten...</translation>
+    </message>
+    <message id="2095">
+        <source>Recent File</source>
+        <extracomment>Menu: File menu. Placeholder until files have been opened; the list of recent files replaces it.</extracomment>
+        <translation>Zuletzt verwendete Datei</translation>
+    </message>
+    <message id="2096">
+        <source>E&amp;xit</source>
+        <extracomment>Menu: File menu. &amp; stands before the access key, unique in the menu.</extracomment>
+        <translation>&amp;Beenden</translation>
+    </message>
+    <message id="2097">
+        <source>&amp;Undo&#9;Ctrl+Z</source>
+        <extracomment>Menu: Edit menu. &amp; stands before the access key, unique in the menu. Keep the tab and the shortcut behind it.</extracomment>
+        <translation>&amp;Rückgängig&#9;Ctrl+Z</translation>
+    </message>
+    <message id="2098">
+        <source>&amp;Redo&#9;Ctrl+Y</source>
+        <extracomment>Menu: Edit menu. &amp; stands before the access key, unique in the menu. Keep the tab and the shortcut behind it.</extracomment>
+        <translation>&amp;Wiederholen&#9;Ctrl+Y</translation>
+    </message>
+    <message id="2099">
+        <source>Cu&amp;t&#9;Ctrl+X</source>
+        <extracomment>Menu: Edit menu. &amp; stands before the access key, unique in the menu. Keep the tab and the shortcut behind it.</extracomment>
+        <translation>&amp;Ausschneiden&#9;Ctrl+X</translation>
+    </message>
+    <message id="2100">
+        <source>&amp;Copy&#9;Ctrl+C</source>
+        <extracomment>Menu: Edit menu. &amp; stands before the access key, unique in the menu. Keep the tab and the shortcut behind it.</extracomment>
+        <translation>&amp;Kopieren&#9;Ctrl+C</translation>
+    </message>
+    <message id="2101">
+        <source>&amp;Paste&#9;Ctrl+V</source>
+        <extracomment>Menu: Edit menu. &amp; stands before the access key, unique in the menu. Keep the tab and the shortcut behind it.</extracomment>
+        <translation>&amp;Einfügen&#9;Ctrl+V</translation>
+    </message>
+    <message id="2102">
+        <source>An operator cannot be selected for the type Any. Select another type first.</source>
+        <extracomment>Message: operator cell of a row whose type is "Any" (text 1632).</extracomment>
+        <translation>Für den Typ „Beliebig“ kann kein Operator ausgewählt werden. Wählen Sie zuerst einen anderen Typ aus.</translation>
+    </message>
+    <message id="2103">
+        <source>&amp;Cascade</source>
+        <extracomment>Menu: Window menu. &amp; stands before the access key, unique in the menu.</extracomment>
+        <translation>Ü&amp;berlappend</translation>
+    </message>
+    <message id="2104">
+        <source>&amp;Tile</source>
+        <extracomment>Menu: Window menu. &amp; stands before the access key, unique in the menu.</extracomment>
+        <translation>&amp;Nebeneinander</translation>
+    </message>
+    <message id="2105">
+        <source>A value cannot be entered for the type Any. Select another type first.</source>
+        <extracomment>Message: value cell of a row whose type is "Any" (text 1632).</extracomment>
+        <translation>Für den Typ „Beliebig“ kann kein Wert eingegeben werden. Wählen Sie zuerst einen anderen Typ aus.</translation>
+    </message>
+    <message id="2106">
+        <source>&amp;About Ruleward Builder...</source>
+        <extracomment>Menu: Help menu. &amp; stands before the access key, unique in the menu.</extracomment>
+        <translation>&amp;Info über Ruleward Builder...</translation>
+    </message>
+    <message id="2107">
+        <source>&amp;File</source>
+        <extracomment>Menu: title in the menu bar. &amp; stands before the access key, unique in the menu.</extracomment>
+        <translation>&amp;Datei</translation>
+    </message>
+    <message id="2108">
+        <source>&amp;Edit</source>
+        <extracomment>Menu: title in the menu bar. &amp; stands before the access key, unique in the menu.</extracomment>
+        <translation>&amp;Bearbeiten</translation>
+    </message>
+    <message id="2109">
+        <source>&amp;Checks</source>
+        <extracomment>Menu: title in the menu bar. &amp; stands before the access key, unique in the menu.</extracomment>
+        <translation>&amp;Prüfungen</translation>
+    </message>
+    <message id="2110">
+        <source>&amp;Window</source>
+        <extracomment>Menu: title in the menu bar. &amp; stands before the access key, unique in the menu.</extracomment>
+        <translation>&amp;Fenster</translation>
+    </message>
+    <message id="2114">
+        <source>&amp;View Display Mode</source>
+        <extracomment>Menu: Checks &gt; Drawings menu. &amp; stands before the access key, unique in the menu.</extracomment>
+        <translation>&amp;Darstellungsart der Ansichten</translation>
+    </message>
+    <message id="2115">
+        <source>Layer (Single)</source>
+        <extracomment>Check name: check type 306; occurs in files only.</extracomment>
+        <translation>Layer (einzeln)</translation>
+    </message>
+    <message id="2116">
+        <source>Custom Property (Single)</source>
+        <extracomment>Check name: check type 106; occurs in files only.</extracomment>
+        <translation>Benutzerdefinierte Eigenschaft (einzeln)</translation>
+    </message>
+    <message id="2117">
+        <source>&amp;Help Topics&#9;F1</source>
+        <extracomment>Menu: Help menu. &amp; stands before the access key, unique in the menu. Keep the tab and the shortcut behind it.</extracomment>
+        <translation>&amp;Hilfethemen&#9;F1</translation>
+    </message>
+    <message id="2118">
+        <source>&amp;Toolbar</source>
+        <extracomment>Menu: only entry of the pop-up on the menu bar; shows or hides the main toolbar.</extracomment>
+        <translation>&amp;Symbolleiste</translation>
+    </message>
+    <message id="2119">
+        <source>Main Toolbar</source>
+        <extracomment>Title: main toolbar while it floats.</extracomment>
+        <translation>Hauptsymbolleiste</translation>
+    </message>
+    <message id="2120">
+        <source>Layer Name</source>
+        <extracomment>Check name: check type 305; occurs in files only.</extracomment>
+        <translation>Name des Layers</translation>
+    </message>
+    <message id="2121">
+        <source>&amp;Welcome Page...</source>
+        <extracomment>Menu: Help menu. &amp; stands before the access key, unique in the menu.</extracomment>
+        <translation>&amp;Willkommensseite...</translation>
+    </message>
+    <message id="2122">
+        <source>&amp;Merge Standards...</source>
+        <extracomment>Menu: File menu. &amp; stands before the access key, unique in the menu.</extracomment>
+        <translation>Standards &amp;zusammenführen...</translation>
+    </message>
+    <message id="2123">
+        <source>Ruleward Standard (*.kvstd)|*.kvstd||</source>
+        <extracomment>Filter: file types of standards; name and patterns in turn, separated by |. Translate the names only, keep the order.</extracomment>
+        <translation>Ruleward-Standard (*.kvstd)|*.kvstd||</translation>
+    </message>
+    <message id="2124">
+        <source>Select only one standard to move up.</source>
+        <extracomment>Message: move up with several rows selected in the merge dialog.</extracomment>
+        <translation>Wählen Sie nur einen Standard aus, der nach oben verschoben werden soll.</translation>
+    </message>
+    <message id="2125">
+        <source>Select only one standard to move down.</source>
+        <extracomment>Message: move down with several rows selected in the merge dialog.</extracomment>
+        <translation>Wählen Sie nur einen Standard aus, der nach unten verschoben werden soll.</translation>
+    </message>
+    <message id="2126">
+        <source>Select a standard to move up.</source>
+        <extracomment>Message: move up with no row selected in the merge dialog.</extracomment>
+        <translation>Wählen Sie einen Standard aus, der nach oben verschoben werden soll.</translation>
+    </message>
+    <message id="2127">
+        <source>Select a standard to move down.</source>
+        <extracomment>Message: move down with no row selected in the merge dialog.</extracomment>
+        <translation>Wählen Sie einen Standard aus, der nach unten verschoben werden soll.</translation>
+    </message>
+    <message id="2128">
+        <source>Add at least two standards to merge.</source>
+        <extracomment>Message: OK in the merge dialog with fewer than two standards listed.</extracomment>
+        <translation>Fügen Sie mindestens zwei Standards hinzu, die zusammengeführt werden sollen.</translation>
+    </message>
+    <message id="2129">
+        <source>There is no valid standard to merge. The last file is not a standard: </source>
+        <extracomment>Message: no file of the merge is a standard. A path follows the text: keep the blank at its end.</extracomment>
+        <translation>Es gibt keinen gültigen Standard, der zusammengeführt werden kann. Die letzte Datei ist kein Standard: </translation>
+    </message>
+    <message id="2130">
+        <source>The file is not a valid standard and is skipped: </source>
+        <extracomment>Message: a file of the merge is no standard. A path follows the text: keep the blank at its end.</extracomment>
+        <translation>Die Datei ist kein gültiger Standard und wird übersprungen: </translation>
+    </message>
+    <message id="2131">
+        <source>A check without a type was found. The rest of this standard is skipped.</source>
+        <extracomment>Message: a source of the merge has a check that names no type.</extracomment>
+        <translation>Eine Prüfung ohne Typ wurde gefunden. Der Rest dieses Standards wird übersprungen.</translation>
+    </message>
+    <message id="2138">
+        <source>Merge Standards</source>
+        <extracomment>Title: merge dialog, and the text above its list.</extracomment>
+        <translation>Standards zusammenführen</translation>
+    </message>
+    <message id="2139">
+        <source>&amp;Add...</source>
+        <extracomment>Caption: button of the merge dialog. Access keys are unique in the dialog.</extracomment>
+        <translation>&amp;Hinzufügen...</translation>
+    </message>
+    <message id="2140">
+        <source>&amp;Remove</source>
+        <extracomment>Caption: button of the merge dialog. Access keys are unique in the dialog.</extracomment>
+        <translation>&amp;Entfernen</translation>
+    </message>
+    <message id="2141">
+        <source>Move &amp;Up</source>
+        <extracomment>Caption: button of the merge dialog. Access keys are unique in the dialog.</extracomment>
+        <translation>Nach &amp;oben</translation>
+    </message>
+    <message id="2142">
+        <source>Move &amp;Down</source>
+        <extracomment>Caption: button of the merge dialog. Access keys are unique in the dialog.</extracomment>
+        <translation>Nach &amp;unten</translation>
+    </message>
+    <message id="2143">
+        <source>OK</source>
+        <extracomment>Caption: button of the merge dialog. Access keys are unique in the dialog.</extracomment>
+        <translation>OK</translation>
+    </message>
+    <message id="2144">
+        <source>Cancel</source>
+        <extracomment>Caption: button of the merge dialog. Access keys are unique in the dialog.</extracomment>
+        <translation>Abbrechen</translation>
+    </message>
+    <message id="2145">
+        <source>&amp;Help</source>
+        <extracomment>Caption: button of the merge dialog. Access keys are unique in the dialog.</extracomment>
+        <translation>Hi&amp;lfe</translation>
+    </message>
+    <message id="2148">
+        <source>&amp;Spelling</source>
+        <extracomment>Menu: Checks &gt; Annotations menu. &amp; stands before the access key, unique in the menu.</extracomment>
+        <translation>&amp;Rechtschreibung</translation>
+    </message>
+    <message id="2149">
+        <source>The document must not contain spelling errors.</source>
+        <extracomment>Summary: what check type 203 asks for, on the summary page and in the report.</extracomment>
+        <translation>Das Dokument darf keine Rechtschreibfehler enthalten.</translation>
+    </message>
+    <message id="2150">
+        <source>Overridden &amp;Mass Properties</source>
+        <extracomment>Menu: Checks &gt; Documents menu. &amp; stands before the access key, unique in the menu.</extracomment>
+        <translation>Übersch&amp;riebene Masseneigenschaften</translation>
+    </message>
+    <message id="2151">
+        <source>Mass properties must not be overridden.</source>
+        <extracomment>Summary: what check type 118 asks for, on the summary page and in the report.</extracomment>
+        <translation>Masseneigenschaften dürfen nicht überschrieben sein.</translation>
+    </message>
+    <message id="2160">
+        <source>Standard &amp;Hole Sizes</source>
+        <extracomment>Menu: Checks &gt; Features menu. &amp; stands before the access key, unique in the menu.</extracomment>
+        <translation>&amp;Genormte Bohrungsgrößen</translation>
+    </message>
+    <message id="2161">
+        <source>Holes must have standard sizes.</source>
+        <extracomment>Summary: what check type 703 asks for, on the summary page and in the report.</extracomment>
+        <translation>Bohrungen müssen genormte Größen haben.</translation>
+    </message>
+    <message id="2185">
+        <source>Geometric Tolerance Font (Document)</source>
+        <extracomment>Check name: check type 119; also the caption of its pane.</extracomment>
+        <translation>Schriftart der Form- und Lagetoleranzen (Dokument)</translation>
+    </message>
+    <message id="2187">
+        <source>&amp;Geometric Tolerance Font</source>
+        <extracomment>Menu: Checks &gt; Documents menu. &amp; stands before the access key, unique in the menu.</extracomment>
+        <translation>Schriftart &amp;Form- und Lagetoleranzen</translation>
+    </message>
+    <message id="2189">
+        <source>Auxiliary View Label Font (Document)</source>
+        <extracomment>Check name: check type 120; also the caption of its pane.</extracomment>
+        <translation>Schriftart der Hilfsansichtstitel (Dokument)</translation>
+    </message>
+    <message id="2190">
+        <source>Auxiliary &amp;View Label Font</source>
+        <extracomment>Menu: Checks &gt; Documents menu. &amp; stands before the access key, unique in the menu.</extracomment>
+        <translation>Schriftart H&amp;ilfsansichtstitel</translation>
+    </message>
+    <message id="2191">
+        <source>Enter a value between 0.0000001 and 1000000 millimeters.</source>
+        <extracomment>Message: length out of bounds, unit millimeter. Keep the figures.</extracomment>
+        <translation>Geben Sie einen Wert zwischen 0.0000001 und 1000000 Millimeter ein.</translation>
+    </message>
+    <message id="2192">
+        <source>Enter a value between 0.00000001 and 100000 centimeters.</source>
+        <extracomment>Message: length out of bounds, unit centimeter. Keep the figures.</extracomment>
+        <translation>Geben Sie einen Wert zwischen 0.00000001 und 100000 Zentimeter ein.</translation>
+    </message>
+    <message id="2193">
+        <source>Enter a value between 0.0000000001 and 1000 meters.</source>
+        <extracomment>Message: length out of bounds, unit meter. Keep the figures.</extracomment>
+        <translation>Geben Sie einen Wert zwischen 0.0000000001 und 1000 Meter ein.</translation>
+    </message>
+    <message id="2194">
+        <source>Enter a value between 0.0000000039 and 39370.07874016 inches.</source>
+        <extracomment>Message: length out of bounds, unit inch. Keep the figures.</extracomment>
+        <translation>Geben Sie einen Wert zwischen 0.0000000039 und 39370.07874016 Zoll ein.</translation>
+    </message>
+    <message id="2195">
+        <source>Enter a value between 0.0000000003 and 3280.83989501 feet.</source>
+        <extracomment>Message: length out of bounds, unit foot. Keep the figures.</extracomment>
+        <translation>Geben Sie einen Wert zwischen 0.0000000003 und 3280.83989501 Fuß ein.</translation>
+    </message>
+    <message id="2196">
+        <source>Enter a value between 0.0000000039 and 3280 feet and inches.</source>
+        <extracomment>Message: length out of bounds, unit feet and inches. Keep the figures.</extracomment>
+        <translation>Geben Sie einen Wert zwischen 0.0000000039 und 3280 Fuß und Zoll ein.</translation>
+    </message>
+    <message id="2197">
+        <source>Enter a value between 1 and 10000000000000 angstroms.</source>
+        <extracomment>Message: length out of bounds, unit angstrom. Keep the figures.</extracomment>
+        <translation>Geben Sie einen Wert zwischen 1 und 10000000000000 Ångström ein.</translation>
+    </message>
+    <message id="2198">
+        <source>Enter a value between 0.1 and 1000000000000 nanometers.</source>
+        <extracomment>Message: length out of bounds, unit nanometer. Keep the figures.</extracomment>
+        <translation>Geben Sie einen Wert zwischen 0.1 und 1000000000000 Nanometer ein.</translation>
+    </message>
+    <message id="2199">
+        <source>Enter a value within the range allowed for the current unit.</source>
+        <extracomment>Message: length out of bounds, units micron and mil, whose bounds differ.</extracomment>
+        <translation>Geben Sie einen Wert ein, der im zulässigen Bereich der aktuellen Einheit liegt.</translation>
+    </message>
+    <message id="2200">
+        <source>Enter a value between 0.000003937 and 39370078.74015749 mils.</source>
+        <extracomment>Message: length out of bounds, unit mil. Kept for completeness; text 2199 is shown instead. Keep the figures.</extracomment>
+        <translation>Geben Sie einen Wert zwischen 0.000003937 und 39370078.74015749 Mil ein.</translation>
+    </message>
+    <message id="2201">
+        <source>Enter a value between 0.0039370079 and 39370078740.157486 microinches.</source>
+        <extracomment>Message: length out of bounds, unit microinch. Keep the figures.</extracomment>
+        <translation>Geben Sie einen Wert zwischen 0.0039370079 und 39370078740.157486 Mikrozoll ein.</translation>
+    </message>
+    <message id="2202">
+        <source>Description</source>
+        <extracomment>Option: usual name of a custom property, offered in the name box. Must differ from the others.</extracomment>
+        <translation>Benennung</translation>
+    </message>
+    <message id="2203">
+        <source>Part Number</source>
+        <extracomment>Option: usual name of a custom property, offered in the name box. Must differ from the others.</extracomment>
+        <translation>Teilenummer</translation>
+    </message>
+    <message id="2205">
+        <source>Number</source>
+        <extracomment>Option: usual name of a custom property, offered in the name box. Must differ from the others.</extracomment>
+        <translation>Nummer</translation>
+    </message>
+    <message id="2206">
+        <source>Revision</source>
+        <extracomment>Option: usual name of a custom property, offered in the name box. Must differ from the others.</extracomment>
+        <translation>Revision</translation>
+    </message>
+    <message id="2207">
+        <source>Material</source>
+        <extracomment>Option: usual name of a custom property, offered in the name box. Must differ from the others.</extracomment>
+        <translation>Werkstoff</translation>
+    </message>
+    <message id="2208">
+        <source>Finish</source>
+        <extracomment>Option: usual name of a custom property, offered in the name box. Must differ from the others.</extracomment>
+        <translation>Oberflächenbehandlung</translation>
+    </message>
+    <message id="2209">
+        <source>Weight</source>
+        <extracomment>Option: usual name of a custom property, offered in the name box. Must differ from the others.</extracomment>
+        <translation>Gewicht</translation>
+    </message>
+    <message id="2210">
+        <source>Cost</source>
+        <extracomment>Option: usual name of a custom property, offered in the name box. Must differ from the others.</extracomment>
+        <translation>Kosten</translation>
+    </message>
+    <message id="2211">
+        <source>Author</source>
+        <extracomment>Option: usual name of a custom property, offered in the name box. Must differ from the others.</extracomment>
+        <translation>Autor</translation>
+    </message>
+    <message id="2212">
+        <source>Keywords</source>
+        <extracomment>Option: usual name of a custom property, offered in the name box. Must differ from the others.</extracomment>
+        <translation>Stichwörter</translation>
+    </message>
+    <message id="2213">
+        <source>Comments</source>
+        <extracomment>Option: usual name of a custom property, offered in the name box. Must differ from the others.</extracomment>
+        <translation>Kommentare</translation>
+    </message>
+    <message id="2214">
+        <source>Subject</source>
+        <extracomment>Option: usual name of a custom property, offered in the name box. Must differ from the others.</extracomment>
+        <translation>Thema</translation>
+    </message>
+    <message id="2215">
+        <source>Project</source>
+        <extracomment>Option: usual name of a custom property, offered in the name box. Must differ from the others.</extracomment>
+        <translation>Projekt</translation>
+    </message>
+    <message id="2216">
+        <source>Department</source>
+        <extracomment>Option: usual name of a custom property, offered in the name box. Must differ from the others.</extracomment>
+        <translation>Abteilung</translation>
+    </message>
+    <message id="2217">
+        <source>Division</source>
+        <extracomment>Option: usual name of a custom property, offered in the name box. Must differ from the others.</extracomment>
+        <translation>Geschäftsbereich</translation>
+    </message>
+    <message id="2218">
+        <source>Company Name</source>
+        <extracomment>Option: usual name of a custom property, offered in the name box. Must differ from the others.</extracomment>
+        <translation>Firmenname</translation>
+    </message>
+    <message id="2219">
+        <source>Customer</source>
+        <extracomment>Option: usual name of a custom property, offered in the name box. Must differ from the others.</extracomment>
+        <translation>Kunde</translation>
+    </message>
+    <message id="2220">
+        <source>Supplier</source>
+        <extracomment>Option: usual name of a custom property, offered in the name box. Must differ from the others.</extracomment>
+        <translation>Lieferant</translation>
+    </message>
+    <message id="2221">
+        <source>Supplier Part Number</source>
+        <extracomment>Option: usual name of a custom property, offered in the name box. Must differ from the others.</extracomment>
+        <translation>Teilenummer des Lieferanten</translation>
+    </message>
+    <message id="2222">
+        <source>Drawn By</source>
+        <extracomment>Option: usual name of a custom property, offered in the name box. Must differ from the others.</extracomment>
+        <translation>Gezeichnet von</translation>
+    </message>
+    <message id="2223">
+        <source>Drawn Date</source>
+        <extracomment>Option: usual name of a custom property, offered in the name box. Must differ from the others.</extracomment>
+        <translation>Gezeichnet am</translation>
+    </message>
+    <message id="2224">
+        <source>Checked By</source>
+        <extracomment>Option: usual name of a custom property, offered in the name box. Must differ from the others.</extracomment>
+        <translation>Geprüft von</translation>
+    </message>
+    <message id="2225">
+        <source>Checked Date</source>
+        <extracomment>Option: usual name of a custom property, offered in the name box. Must differ from the others.</extracomment>
+        <translation>Geprüft am</translation>
+    </message>
+    <message id="2226">
+        <source>Approved By</source>
+        <extracomment>Option: usual name of a custom property, offered in the name box. Must differ from the others.</extracomment>
+        <translation>Freigegeben von</translation>
+    </message>
+    <message id="2227">
+        <source>Approved Date</source>
+        <extracomment>Option: usual name of a custom property, offered in the name box. Must differ from the others.</extracomment>
+        <translation>Freigegeben am</translation>
+    </message>
+    <message id="2228">
+        <source>Manufacturing Approval</source>
+        <extracomment>Option: usual name of a custom property, offered in the name box. Must differ from the others.</extracomment>
+        <translation>Fertigungsfreigabe</translation>
+    </message>
+    <message id="2229">
+        <source>Manufacturing Approval Date</source>
+        <extracomment>Option: usual name of a custom property, offered in the name box. Must differ from the others.</extracomment>
+        <translation>Datum der Fertigungsfreigabe</translation>
+    </message>
+    <message id="2230">
+        <source>Quality Approval</source>
+        <extracomment>Option: usual name of a custom property, offered in the name box. Must differ from the others.</extracomment>
+        <translation>Qualitätsfreigabe</translation>
+    </message>
+    <message id="2231">
+        <source>Quality Approval Date</source>
+        <extracomment>Option: usual name of a custom property, offered in the name box. Must differ from the others.</extracomment>
+        <translation>Datum der Qualitätsfreigabe</translation>
+    </message>
+    <message id="2232">
+        <source>Document Number</source>
+        <extracomment>Option: usual name of a custom property, offered in the name box. Must differ from the others.</extracomment>
+        <translation>Dokumentnummer</translation>
+    </message>
+    <message id="2233">
+        <source>Drawing Size</source>
+        <extracomment>Option: usual name of a custom property, offered in the name box. Must differ from the others.</extracomment>
+        <translation>Zeichnungsgröße</translation>
+    </message>
+    <message id="2234">
+        <source>Sheet Scale</source>
+        <extracomment>Option: usual name of a custom property, offered in the name box. Must differ from the others.</extracomment>
+        <translation>Blattmaßstab</translation>
+    </message>
+    <message id="2235">
+        <source>Change Number</source>
+        <extracomment>Option: usual name of a custom property, offered in the name box. Must differ from the others.</extracomment>
+        <translation>Änderungsnummer</translation>
+    </message>
+    <message id="2236">
+        <source>Change Date</source>
+        <extracomment>Option: usual name of a custom property, offered in the name box. Must differ from the others.</extracomment>
+        <translation>Änderungsdatum</translation>
+    </message>
+    <message id="2237">
+        <source>Status</source>
+        <extracomment>Option: usual name of a custom property, offered in the name box. Must differ from the others.</extracomment>
+        <translation>Status</translation>
+    </message>
+    <message id="2240">
+        <source>Add Font Checks</source>
+        <extracomment>Title: dialog that adds several document font checks at once.</extracomment>
+        <translation>Schriftartprüfungen hinzufügen</translation>
+    </message>
+    <message id="2243">
+        <source>&amp;Suppressed Components</source>
+        <extracomment>Menu: Checks &gt; Assemblies menu. &amp; stands before the access key, unique in the menu.</extracomment>
+        <translation>&amp;Unterdrückte Komponenten</translation>
+    </message>
+    <message id="2244">
+        <source>&amp;Suppressed Features</source>
+        <extracomment>Menu: Checks &gt; Features menu. &amp; stands before the access key, unique in the menu.</extracomment>
+        <translation>&amp;Unterdrückte Features</translation>
+    </message>
+    <message id="2250">
+        <source>The assembly must not contain suppressed components.</source>
+        <extracomment>Summary: what check type 606 asks for, on the summary page and in the report.</extracomment>
+        <translation>Die Baugruppe darf keine unterdrückten Komponenten enthalten.</translation>
+    </message>
+    <message id="2251">
+        <source>The part must not contain suppressed features.</source>
+        <extracomment>Summary: what check type 704 asks for, on the summary page and in the report.</extracomment>
+        <translation>Das Teil darf keine unterdrückten Features enthalten.</translation>
+    </message>
+    <message id="2260">
+        <source>Criticality</source>
+        <extracomment>Heading: summary page and custom check grid.</extracomment>
+        <translation>Kritikalität</translation>
+    </message>
+    <message id="2261">
+        <source>Parameter</source>
+        <extracomment>Heading: parameter column of the summary page; second column of the report. No &amp; and no &lt;.</extracomment>
+        <translation>Parameter</translation>
+    </message>
+    <message id="2262">
+        <source>&amp;Dangling Dimensions</source>
+        <extracomment>Menu: Checks &gt; Drawings menu. &amp; stands before the access key, unique in the menu.</extracomment>
+        <translation>&amp;Verwaiste Maße</translation>
+    </message>
+    <message id="2264">
+        <source>&amp;Replaced Dimension Text</source>
+        <extracomment>Menu: Checks &gt; Dimensions menu. &amp; stands before the access key, unique in the menu.</extracomment>
+        <translation>Ersetzter Maß&amp;text</translation>
+    </message>
+    <message id="2265">
+        <source>&amp;Text Alignment</source>
+        <extracomment>Menu: Checks &gt; Dimensions menu. &amp; stands before the access key, unique in the menu.</extracomment>
+        <translation>Text&amp;ausrichtung</translation>
+    </message>
+    <message id="2266">
+        <source>&amp;Precision</source>
+        <extracomment>Menu: Checks &gt; Dimensions menu. &amp; stands before the access key, unique in the menu.</extracomment>
+        <translation>&amp;Genauigkeit</translation>
+    </message>
+    <message id="2267">
+        <source>Low</source>
+        <extracomment>Criticality: one of the four criticalities. Also names its picture file in a report: unique among all pictures and valid as a file name.</extracomment>
+        <translation>Niedrig</translation>
+    </message>
+    <message id="2268">
+        <source>Medium</source>
+        <extracomment>Criticality: one of the four criticalities. Also names its picture file in a report: unique among all pictures and valid as a file name.</extracomment>
+        <translation>Mittel</translation>
+    </message>
+    <message id="2269">
+        <source>High</source>
+        <extracomment>Criticality: one of the four criticalities. Also names its picture file in a report: unique among all pictures and valid as a file name.</extracomment>
+        <translation>Hoch</translation>
+    </message>
+    <message id="2270">
+        <source>Critical</source>
+        <extracomment>Criticality: one of the four criticalities. Also names its picture file in a report: unique among all pictures and valid as a file name.</extracomment>
+        <translation>Kritisch</translation>
+    </message>
+    <message id="2271">
+        <source>Replaced Dimension Text</source>
+        <extracomment>Check name: check type 407; also the caption of its pane. Also the label of its parameter.</extracomment>
+        <translation>Ersetzter Maßtext</translation>
+    </message>
+    <message id="2272">
+        <source>Dimension Text Alignment</source>
+        <extracomment>Check name: check type 408; also the caption of its pane.</extracomment>
+        <translation>Ausrichtung des Maßtexts</translation>
+    </message>
+    <message id="2273">
+        <source>Dimension Precision</source>
+        <extracomment>Check name: check type 409; also the caption of its pane.</extracomment>
+        <translation>Genauigkeit der Maße</translation>
+    </message>
+    <message id="2274">
+        <source>Linear Dimension Text</source>
+        <extracomment>Parameter label: check type 408. Must differ from the other labels of the type.</extracomment>
+        <translation>Text des Längenmaßes</translation>
+    </message>
+    <message id="2275">
+        <source>Angular Dimension Text</source>
+        <extracomment>Parameter label: check type 408. Must differ from the other labels of the type.</extracomment>
+        <translation>Text des Winkelmaßes</translation>
+    </message>
+    <message id="2276">
+        <source>Radial Dimension Text</source>
+        <extracomment>Parameter label: check type 408. Must differ from the other labels of the type.</extracomment>
+        <translation>Text des Radialmaßes</translation>
+    </message>
+    <message id="2277">
+        <source>Chamfer Dimension Text</source>
+        <extracomment>Parameter label: check type 408. Must differ from the other labels of the type.</extracomment>
+        <translation>Text des Fasenmaßes</translation>
+    </message>
+    <message id="2278">
+        <source>The original dimension text must not be replaced.</source>
+        <extracomment>Summary: what check type 407 asks for, on the summary page and in the report.</extracomment>
+        <translation>Der ursprüngliche Maßtext darf nicht ersetzt sein.</translation>
+    </message>
+    <message id="2281">
+        <source>Linear Tolerance Precision</source>
+        <extracomment>Parameter label: check type 409. Must differ from the other labels of the type.</extracomment>
+        <translation>Genauigkeit der Längentoleranz</translation>
+    </message>
+    <message id="2282">
+        <source>Linear Precision</source>
+        <extracomment>Parameter label: check type 409. Must differ from the other labels of the type.</extracomment>
+        <translation>Genauigkeit des Längenmaßes</translation>
+    </message>
+    <message id="2283">
+        <source>Dual Tolerance Precision</source>
+        <extracomment>Parameter label: check type 409. Must differ from the other labels of the type.</extracomment>
+        <translation>Genauigkeit der Toleranz in der zweiten Einheit</translation>
+    </message>
+    <message id="2284">
+        <source>Dual Precision</source>
+        <extracomment>Parameter label: check type 409. Must differ from the other labels of the type.</extracomment>
+        <translation>Genauigkeit in der zweiten Einheit</translation>
+    </message>
+    <message id="2285">
+        <source>None</source>
+        <extracomment>Option: one of the decimal precision. Must differ from the others.</extracomment>
+        <translation>Keine</translation>
+    </message>
+    <message id="2286">
+        <source>0.1</source>
+        <extracomment>Option: one of the decimal precision. Must differ from the others.</extracomment>
+        <translation>0.1</translation>
+    </message>
+    <message id="2287">
+        <source>0.12</source>
+        <extracomment>Option: one of the decimal precision. Must differ from the others.</extracomment>
+        <translation>0.12</translation>
+    </message>
+    <message id="2288">
+        <source>0.123</source>
+        <extracomment>Option: one of the decimal precision. Must differ from the others.</extracomment>
+        <translation>0.123</translation>
+    </message>
+    <message id="2289">
+        <source>The drawing must not contain dangling dimensions.</source>
+        <extracomment>Summary: what check type 313 asks for, on the summary page and in the report.</extracomment>
+        <translation>Die Zeichnung darf keine verwaisten Maße enthalten.</translation>
+    </message>
+    <message id="2291">
+        <source>&amp;Interference</source>
+        <extracomment>Menu: Checks &gt; Assemblies menu. &amp; stands before the access key, unique in the menu.</extracomment>
+        <translation>&amp;Kollisionen</translation>
+    </message>
+    <message id="2292">
+        <source>&amp;Extension Line Gap</source>
+        <extracomment>Menu: Checks &gt; Drawings menu. &amp; stands before the access key, unique in the menu.</extracomment>
+        <translation>Abstand der &amp;Maßhilfslinien</translation>
+    </message>
+    <message id="2293">
+        <source>Visible Gap Distance</source>
+        <extracomment>Parameter label: check type 314. Must differ from the other labels of the type.</extracomment>
+        <translation>Abstand der sichtbaren Lücke</translation>
+    </message>
+    <message id="2294">
+        <source>Visible Gap Extension</source>
+        <extracomment>Parameter label: check type 314. Must differ from the other labels of the type.</extracomment>
+        <translation>Verlängerung der sichtbaren Lücke</translation>
+    </message>
+    <message id="2295">
+        <source>Show All Checks</source>
+        <extracomment>Button text: display toolbar; shows the checks of all groups or of the selected one.</extracomment>
+        <translation>Alle Prüfungen anzeigen</translation>
+    </message>
+    <message id="2296">
+        <source>Show the checks of all groups</source>
+        <extracomment>Tooltip: display toolbar button while only the selected group is shown.</extracomment>
+        <translation>Prüfungen aller Gruppen anzeigen</translation>
+    </message>
+    <message id="2297">
+        <source>Show only the checks of the selected group</source>
+        <extracomment>Tooltip: display toolbar button while all groups are shown.</extracomment>
+        <translation>Nur die Prüfungen der ausgewählten Gruppe anzeigen</translation>
+    </message>
+    <message id="2298">
+        <source>All Documents</source>
+        <extracomment>Option: document type of a custom check. Must differ from the others.</extracomment>
+        <translation>Alle Dokumente</translation>
+    </message>
+    <message id="2299">
+        <source>Part</source>
+        <extracomment>Option: document type of a custom check. Must differ from the others.</extracomment>
+        <translation>Teil</translation>
+    </message>
+    <message id="2300">
+        <source>Drawing</source>
+        <extracomment>Option: document type of a custom check. Must differ from the others.</extracomment>
+        <translation>Zeichnung</translation>
+    </message>
+    <message id="2301">
+        <source>Assembly</source>
+        <extracomment>Option: document type of a custom check. Must differ from the others.</extracomment>
+        <translation>Baugruppe</translation>
+    </message>
+    <message id="2302">
+        <source>Virtual &amp;Sharps</source>
+        <extracomment>Menu: Checks &gt; Documents menu. &amp; stands before the access key, unique in the menu.</extracomment>
+        <translation>&amp;Virtuelle Ecken</translation>
+    </message>
+    <message id="2307">
+        <source>Linear Upper Tolerance</source>
+        <extracomment>Parameter label: check type 409. Must differ from the other labels of the type.</extracomment>
+        <translation>Oberes Abmaß des Längenmaßes</translation>
+    </message>
+    <message id="2308">
+        <source>Linear Lower Tolerance</source>
+        <extracomment>Parameter label: check type 409. Must differ from the other labels of the type.</extracomment>
+        <translation>Unteres Abmaß des Längenmaßes</translation>
+    </message>
+    <message id="2309">
+        <source>Angular Upper Tolerance</source>
+        <extracomment>Parameter label: check type 409. Must differ from the other labels of the type.</extracomment>
+        <translation>Oberes Abmaß des Winkelmaßes</translation>
+    </message>
+    <message id="2310">
+        <source>Angular Lower Tolerance</source>
+        <extracomment>Parameter label: check type 409. Must differ from the other labels of the type.</extracomment>
+        <translation>Unteres Abmaß des Winkelmaßes</translation>
+    </message>
+    <message id="2311">
+        <source>Check Angular Dimensions</source>
+        <extracomment>Option: one of the decimal precision. Must differ from the others.</extracomment>
+        <translation>Winkelmaße prüfen</translation>
+    </message>
+    <message id="2312">
+        <source>Check Linear Dimensions</source>
+        <extracomment>Option: one of the decimal precision. Must differ from the others.</extracomment>
+        <translation>Längenmaße prüfen</translation>
+    </message>
+    <message id="2314">
+        <source>Precision Comparison</source>
+        <extracomment>Parameter label: check type 409. Must differ from the other labels of the type.</extracomment>
+        <translation>Vergleich der Genauigkeit</translation>
+    </message>
+    <message id="2315">
+        <source>Compare Tolerance Values</source>
+        <extracomment>Option: one of the decimal precision. Must differ from the others.</extracomment>
+        <translation>Toleranzwerte vergleichen</translation>
+    </message>
+    <message id="2320">
+        <source>Compare Precision Settings</source>
+        <extracomment>Option: one of the decimal precision. Must differ from the others.</extracomment>
+        <translation>Genauigkeitseinstellungen vergleichen</translation>
+    </message>
+    <message id="2389">
+        <source>0.1234</source>
+        <extracomment>Option: one of the decimal precision. Must differ from the others.</extracomment>
+        <translation>0.1234</translation>
+    </message>
+    <message id="2390">
+        <source>0.12345</source>
+        <extracomment>Option: one of the decimal precision. Must differ from the others.</extracomment>
+        <translation>0.12345</translation>
+    </message>
+    <message id="2391">
+        <source>0.123456</source>
+        <extracomment>Option: one of the decimal precision. Must differ from the others.</extracomment>
+        <translation>0.123456</translation>
+    </message>
+    <message id="2392">
+        <source>0.1234567</source>
+        <extracomment>Option: one of the decimal precision. Must differ from the others.</extracomment>
+        <translation>0.1234567</translation>
+    </message>
+    <message id="2393">
+        <source>0.12345678</source>
+        <extracomment>Option: one of the decimal precision. Must differ from the others.</extracomment>
+        <translation>0.12345678</translation>
+    </message>
+    <message id="2394">
+        <source>Definition of the Standard</source>
+        <extracomment>Title: second heading of the report. No &amp; and no &lt;.</extracomment>
+        <translation>Inhalt des Standards</translation>
+    </message>
+    <message id="2395">
+        <source>Check</source>
+        <extracomment>Heading: check column of the summary page; first column of the report. No &amp; and no &lt;.</extracomment>
+        <translation>Prüfung</translation>
+    </message>
+    <message id="2396">
+        <source>&amp;Bend Table</source>
+        <extracomment>Menu: Checks &gt; Parts menu. &amp; stands before the access key, unique in the menu.</extracomment>
+        <translation>&amp;Biegetabelle</translation>
+    </message>
+    <message id="2397">
+        <source>Bend Tables (*.xls;*.btl)|*.xls;*.btl||</source>
+        <extracomment>Filter: file types of bend tables; name and patterns in turn, separated by |. Translate the names only, keep the order.</extracomment>
+        <translation>Biegetabellen (*.xls;*.btl)|*.xls;*.btl||</translation>
+    </message>
+    <message id="2398">
+        <source>All Documents (*.kvprt;*.kvasm;*.kvdrw;*.dwg)|*.kvprt;*.kvasm;*.kvdrw;*.dwg|Parts (*.kvprt;*.prt)|*.kvprt;*.prt|Assemblies (*.kvasm;*.asm)|*.kvasm;*.asm|Drawings (*.kvdrw;*.drw)|*.kvdrw;*.drw|DWG Drawings (*.dwg)|*.dwg||</source>
+        <extracomment>Filter: file types of documents to learn from; name and patterns in turn, separated by |. Translate the names only, keep the order.</extracomment>
+        <translation>Alle Dokumente (*.kvprt;*.kvasm;*.kvdrw;*.dwg)|*.kvprt;*.kvasm;*.kvdrw;*.dwg|Teile (*.kvprt;*.prt)|*.kvprt;*.prt|Baugruppen (*.kvasm;*.asm)|*.kvasm;*.asm|Zeichnungen (*.kvdrw;*.drw)|*.kvdrw;*.drw|DWG-Zeichnungen (*.dwg)|*.dwg||</translation>
+    </message>
+    <message id="2401">
+        <source>The following files are not valid standards:</source>
+        <extracomment>Message: files left out of a merge. Their names follow, one a line.</extracomment>
+        <translation>Die folgenden Dateien sind keine gültigen Standards:</translation>
+    </message>
+    <message id="2402">
+        <source>Checks replaced by a later standard:</source>
+        <extracomment>Message: checks replaced in a merge. One line for each follows.</extracomment>
+        <translation>Durch einen späteren Standard ersetzte Prüfungen:</translation>
+    </message>
+    <message id="2403">
+        <source>The file %1 is in use and cannot be replaced. Choose another name.</source>
+        <extracomment>Message: the target of Save As is locked. %1 is its path.</extracomment>
+        <translation>Die Datei %1 wird gerade verwendet und kann nicht ersetzt werden. Wählen Sie einen anderen Namen.</translation>
+    </message>
+    <message id="2404">
+        <source>Angular Tolerance Precision</source>
+        <extracomment>Parameter label: check type 409. Must differ from the other labels of the type.</extracomment>
+        <translation>Genauigkeit der Winkeltoleranz</translation>
+    </message>
+    <message id="2405">
+        <source>Angular Precision</source>
+        <extracomment>Parameter label: check type 409. Must differ from the other labels of the type.</extracomment>
+        <translation>Genauigkeit des Winkelmaßes</translation>
+    </message>
+    <message id="2407">
+        <source>&amp;Custom Checks</source>
+        <extracomment>Menu: Checks &gt; Documents menu. &amp; stands before the access key, unique in the menu.</extracomment>
+        <translation>Be&amp;nutzerdefinierte Prüfungen</translation>
+    </message>
+    <message id="2409">
+        <source>This standard was saved with version %1 and cannot be opened with version %2. Use a later version of Ruleward Builder.</source>
+        <extracomment>Message: the file is of a later version. %1 is the file's version, %2 the version of this application.</extracomment>
+        <translation>Dieser Standard wurde mit Version %1 gespeichert und kann mit Version %2 nicht geöffnet werden. Verwenden Sie eine neuere Version von Ruleward Builder.</translation>
+    </message>
+    <message id="2410">
+        <source>The standard %1 was saved with an earlier version. It will be converted when you save it.</source>
+        <extracomment>Message: the file is of an earlier version. %1 is its path.</extracomment>
+        <translation>Der Standard %1 wurde mit einer früheren Version gespeichert. Er wird beim Speichern umgewandelt.</translation>
+    </message>
+    <message id="2415">
+        <source>The macro file was not found or cannot be read.</source>
+        <extracomment>Tooltip: macro cell whose file is missing or unreadable.</extracomment>
+        <translation>Die Makrodatei wurde nicht gefunden oder kann nicht gelesen werden.</translation>
+    </message>
+    <message id="2418">
+        <source>Kortavo could not be started or reached. Start Kortavo and try again.</source>
+        <extracomment>Message: the CAD system is needed for the command but does not answer.</extracomment>
+        <translation>Kortavo konnte nicht gestartet oder nicht erreicht werden. Starten Sie Kortavo, und versuchen Sie es erneut.</translation>
+    </message>
+    <message id="2419">
+        <source>The correction value does not satisfy the required value. Enter another correction value.</source>
+        <extracomment>Message: the correction value that was entered would itself fail the check.</extracomment>
+        <translation>Der Korrekturwert erfüllt den Sollwert nicht. Geben Sie einen anderen Korrekturwert ein.</translation>
+    </message>
+    <message id="2422">
+        <source>Custom</source>
+        <extracomment>Option: one of the drafting standards; stands for the name that the user enters. Must differ from the others.</extracomment>
+        <translation>Benutzerdefiniert</translation>
+    </message>
+    <message id="2424">
+        <source>File Locations</source>
+        <extracomment>Button text: catalogue button of check type 124.</extracomment>
+        <translation>Dateispeicherorte</translation>
+    </message>
+    <message id="2425">
+        <source>File Locations</source>
+        <extracomment>Check name: check types 124, 127; also the caption of its pane.</extracomment>
+        <translation>Dateispeicherorte</translation>
+    </message>
+    <message id="2426">
+        <source>&amp;File Locations</source>
+        <extracomment>Menu: Checks &gt; Documents menu. &amp; stands before the access key, unique in the menu.</extracomment>
+        <translation>Datei&amp;speicherorte</translation>
+    </message>
+    <message id="2427">
+        <source>File Location (Templates)</source>
+        <extracomment>Check name: check type 126; occurs in files only.</extracomment>
+        <translation>Dateispeicherort (Vorlagen)</translation>
+    </message>
+    <message id="2428">
+        <source>File Location (Settings)</source>
+        <extracomment>Check name: check type 125; occurs in files only.</extracomment>
+        <translation>Dateispeicherort (Einstellungen)</translation>
+    </message>
+    <message id="2429">
+        <source>File Location (Libraries)</source>
+        <extracomment>Check name: check type 128; occurs in files only.</extracomment>
+        <translation>Dateispeicherort (Bibliotheken)</translation>
+    </message>
+    <message id="2430">
+        <source>Part Library</source>
+        <extracomment>Option: one of the file location types. Must differ from the others.</extracomment>
+        <translation>Teilebibliothek</translation>
+    </message>
+    <message id="2431">
+        <source>Document Templates</source>
+        <extracomment>Option: one of the file location types. Must differ from the others.</extracomment>
+        <translation>Dokumentvorlagen</translation>
+    </message>
+    <message id="2432">
+        <source>Sheet Formats</source>
+        <extracomment>Option: one of the file location types. Must differ from the others.</extracomment>
+        <translation>Blattformate</translation>
+    </message>
+    <message id="2433">
+        <source>Symbol Library</source>
+        <extracomment>Option: one of the file location types. Must differ from the others.</extracomment>
+        <translation>Symbolbibliothek</translation>
+    </message>
+    <message id="2434">
+        <source>Drafting Standards</source>
+        <extracomment>Option: one of the file location types. Must differ from the others.</extracomment>
+        <translation>Zeichnungsnormen</translation>
+    </message>
+    <message id="2435">
+        <source>Bill of Materials Templates</source>
+        <extracomment>Option: one of the file location types. Must differ from the others.</extracomment>
+        <translation>Stücklistenvorlagen</translation>
+    </message>
+    <message id="2436">
+        <source>Custom Property Files</source>
+        <extracomment>Option: one of the file location types. Must differ from the others.</extracomment>
+        <translation>Dateien für benutzerdefinierte Eigenschaften</translation>
+    </message>
+    <message id="2437">
+        <source>Design Library</source>
+        <extracomment>Option: one of the file location types. Must differ from the others.</extracomment>
+        <translation>Konstruktionsbibliothek</translation>
+    </message>
+    <message id="2438">
+        <source>Block Library</source>
+        <extracomment>Option: one of the file location types. Must differ from the others.</extracomment>
+        <translation>Blockbibliothek</translation>
+    </message>
+    <message id="2439">
+        <source>Dimension Styles</source>
+        <extracomment>Option: one of the file location types. Must differ from the others.</extracomment>
+        <translation>Maßstile</translation>
+    </message>
+    <message id="2440">
+        <source>General Table Templates</source>
+        <extracomment>Option: one of the file location types. Must differ from the others.</extracomment>
+        <translation>Vorlagen für allgemeine Tabellen</translation>
+    </message>
+    <message id="2441">
+        <source>Hole Table Templates</source>
+        <extracomment>Option: one of the file location types. Must differ from the others.</extracomment>
+        <translation>Vorlagen für Bohrungstabellen</translation>
+    </message>
+    <message id="2442">
+        <source>Line Style Definitions</source>
+        <extracomment>Option: one of the file location types. Must differ from the others.</extracomment>
+        <translation>Linienartdefinitionen</translation>
+    </message>
+    <message id="2443">
+        <source>Macros</source>
+        <extracomment>Option: one of the file location types. Must differ from the others.</extracomment>
+        <translation>Makros</translation>
+    </message>
+    <message id="2444">
+        <source>Material Databases</source>
+        <extracomment>Option: one of the file location types. Must differ from the others.</extracomment>
+        <translation>Werkstoffdatenbanken</translation>
+    </message>
+    <message id="2445">
+        <source>Revision Table Templates</source>
+        <extracomment>Option: one of the file location types. Must differ from the others.</extracomment>
+        <translation>Vorlagen für Änderungstabellen</translation>
+    </message>
+    <message id="2446">
+        <source>Title Block Templates</source>
+        <extracomment>Option: one of the file location types. Must differ from the others.</extracomment>
+        <translation>Schriftfeldvorlagen</translation>
+    </message>
+    <message id="2447">
+        <source>Weld Table Templates</source>
+        <extracomment>Option: one of the file location types. Must differ from the others.</extracomment>
+        <translation>Vorlagen für Schweißtabellen</translation>
+    </message>
+    <message id="2448">
+        <source>Punch Table Templates</source>
+        <extracomment>Option: one of the file location types. Must differ from the others.</extracomment>
+        <translation>Vorlagen für Stanztabellen</translation>
+    </message>
+    <message id="2449">
+        <source>Texture Library</source>
+        <extracomment>Option: one of the file location types. Must differ from the others.</extracomment>
+        <translation>Texturbibliothek</translation>
+    </message>
+    <message id="2450">
+        <source>Spelling Dictionaries</source>
+        <extracomment>Option: one of the file location types. Must differ from the others.</extracomment>
+        <translation>Rechtschreibwörterbücher</translation>
+    </message>
+    <message id="2451">
+        <source>Appearance Library</source>
+        <extracomment>Option: one of the file location types. Must differ from the others.</extracomment>
+        <translation>Erscheinungsbildbibliothek</translation>
+    </message>
+    <message id="2452">
+        <source>Color Swatches</source>
+        <extracomment>Option: one of the file location types. Must differ from the others.</extracomment>
+        <translation>Farbfelder</translation>
+    </message>
+    <message id="2453">
+        <source>Scene Library</source>
+        <extracomment>Option: one of the file location types. Must differ from the others.</extracomment>
+        <translation>Szenenbibliothek</translation>
+    </message>
+    <message id="2454">
+        <source>Frame Profiles</source>
+        <extracomment>Option: one of the file location types. Must differ from the others.</extracomment>
+        <translation>Rahmenprofile</translation>
+    </message>
+    <message id="2455">
+        <source>Report Templates</source>
+        <extracomment>Option: one of the file location types. Must differ from the others.</extracomment>
+        <translation>Berichtsvorlagen</translation>
+    </message>
+    <message id="2456">
+        <source>Hole Callout Formats</source>
+        <extracomment>Option: one of the file location types. Must differ from the others.</extracomment>
+        <translation>Formate für Bohrungsangaben</translation>
+    </message>
+    <message id="2457">
+        <source>Thread Profiles</source>
+        <extracomment>Option: one of the file location types. Must differ from the others.</extracomment>
+        <translation>Gewindeprofile</translation>
+    </message>
+    <message id="2458">
+        <source>Referenced Documents</source>
+        <extracomment>Option: one of the file location types. Must differ from the others.</extracomment>
+        <translation>Referenzierte Dokumente</translation>
+    </message>
+    <message id="2459">
+        <source>Feature Library</source>
+        <extracomment>Option: one of the file location types. Must differ from the others.</extracomment>
+        <translation>Featurebibliothek</translation>
+    </message>
+    <message id="2460">
+        <source>Journal Files</source>
+        <extracomment>Option: one of the file location types. Must differ from the others.</extracomment>
+        <translation>Journaldateien</translation>
+    </message>
+    <message id="2461">
+        <source>Export Settings</source>
+        <extracomment>Option: one of the file location types. Must differ from the others.</extracomment>
+        <translation>Exporteinstellungen</translation>
+    </message>
+    <message id="2462">
+        <source>Web Folders</source>
+        <extracomment>Option: one of the file location types. Must differ from the others.</extracomment>
+        <translation>Webordner</translation>
+    </message>
+    <message id="2463">
+        <source>Add a folder</source>
+        <extracomment>Tooltip: add button of the file locations pane.</extracomment>
+        <translation>Ordner hinzufügen</translation>
+    </message>
+    <message id="2464">
+        <source>Remove the selected folders</source>
+        <extracomment>Tooltip: remove button of the file locations pane.</extracomment>
+        <translation>Ausgewählte Ordner entfernen</translation>
+    </message>
+    <message id="2465">
+        <source>Move the selected folder up</source>
+        <extracomment>Tooltip: move-up button of the file locations pane.</extracomment>
+        <translation>Ausgewählten Ordner nach oben verschieben</translation>
+    </message>
+    <message id="2466">
+        <source>Move the selected folder down</source>
+        <extracomment>Tooltip: move-down button of the file locations pane.</extracomment>
+        <translation>Ausgewählten Ordner nach unten verschieben</translation>
+    </message>
+    <message id="2467">
+        <source>Folders of the selected file type</source>
+        <extracomment>Tooltip: list of the file locations pane.</extracomment>
+        <translation>Ordner des ausgewählten Dateityps</translation>
+    </message>
+    <message id="2473">
+        <source>File Type</source>
+        <extracomment>Parameter label: check types 124 to 126, 128. Must differ from the other labels of the type.</extracomment>
+        <translation>Dateityp</translation>
+    </message>
+    <message id="2474">
+        <source>Folders</source>
+        <extracomment>Parameter label: check type 124. Must differ from the other labels of the type.</extracomment>
+        <translation>Ordner</translation>
+    </message>
+    <message id="2475">
+        <source>This folder is already in the list.</source>
+        <extracomment>Message: the folder to be added is listed already.</extracomment>
+        <translation>Dieser Ordner ist bereits in der Liste.</translation>
+    </message>
+    <message id="2476">
+        <source>Include Subfolders</source>
+        <extracomment>Parameter label: check type 124. Must differ from the other labels of the type.</extracomment>
+        <translation>Unterordner einschließen</translation>
+    </message>
+    <message id="2477">
+        <source>Folder Rules</source>
+        <extracomment>Parameter label: check type 127. Must differ from the other labels of the type.</extracomment>
+        <translation>Ordnerregeln</translation>
+    </message>
+    <message id="2478">
+        <source>Selected File Type</source>
+        <extracomment>Parameter label: check type 127. Must differ from the other labels of the type.</extracomment>
+        <translation>Ausgewählter Dateityp</translation>
+    </message>
+    <message id="2479">
+        <source>Template Folders</source>
+        <extracomment>Parameter label: check type 126. Must differ from the other labels of the type.</extracomment>
+        <translation>Vorlagenordner</translation>
+    </message>
+    <message id="2480">
+        <source>Settings Folders</source>
+        <extracomment>Parameter label: check type 125. Must differ from the other labels of the type.</extracomment>
+        <translation>Einstellungsordner</translation>
+    </message>
+    <message id="2481">
+        <source>Library Folders</source>
+        <extracomment>Parameter label: check type 128. Must differ from the other labels of the type.</extracomment>
+        <translation>Bibliotheksordner</translation>
+    </message>
+    <message id="2482">
+        <source>Folders Are in This Order</source>
+        <extracomment>Option: one of the folder rules. Must differ from the others.</extracomment>
+        <translation>Ordner stehen in dieser Reihenfolge</translation>
+    </message>
+    <message id="2483">
+        <source>All Folders Are Listed</source>
+        <extracomment>Option: one of the folder rules. Must differ from the others.</extracomment>
+        <translation>Alle Ordner sind aufgeführt</translation>
+    </message>
+    <message id="2484">
+        <source>No Other Folders Are Listed</source>
+        <extracomment>Option: one of the folder rules. Must differ from the others.</extracomment>
+        <translation>Keine anderen Ordner sind aufgeführt</translation>
+    </message>
+    <message id="2485">
+        <source>Bend Tables</source>
+        <extracomment>Option: one of the file location types. Must differ from the others.</extracomment>
+        <translation>Biegetabellen</translation>
+    </message>
+    <message id="2486">
+        <source>Gauge Tables</source>
+        <extracomment>Option: one of the file location types. Must differ from the others.</extracomment>
+        <translation>Blechdickentabellen</translation>
+    </message>
+    <message id="2487">
+        <source>Bend Calculation Tables</source>
+        <extracomment>Option: one of the file location types. Must differ from the others.</extracomment>
+        <translation>Biegeberechnungstabellen</translation>
+    </message>
+    <message id="2489">
+        <source>Sheet Format Comparison</source>
+        <extracomment>Parameter label: check type 302. Must differ from the other labels of the type.</extracomment>
+        <translation>Vergleich des Blattformats</translation>
+    </message>
+    <message id="2490">
+        <source>Compare File Name Only</source>
+        <extracomment>Option: one of the sheet format comparisons. Must differ from the others.</extracomment>
+        <translation>Nur den Dateinamen vergleichen</translation>
+    </message>
+    <message id="2491">
+        <source>Compare Full Path</source>
+        <extracomment>Option: one of the sheet format comparisons. Must differ from the others.</extracomment>
+        <translation>Den vollständigen Pfad vergleichen</translation>
+    </message>
+    <message id="2496">
+        <source>Sheet Formats (*.kvdrt)|*.kvdrt||</source>
+        <extracomment>Filter: file types of sheet formats; name and patterns in turn, separated by |. Translate the names only, keep the order.</extracomment>
+        <translation>Blattformate (*.kvdrt)|*.kvdrt||</translation>
+    </message>
+    <message id="2498">
+        <source>Sheet Format File</source>
+        <extracomment>Parameter label: check type 302. Must differ from the other labels of the type.</extracomment>
+        <translation>Blattformatdatei</translation>
+    </message>
+    <message id="2500">
+        <source>Feature Positioning</source>
+        <extracomment>Check name: check type 705; also the caption of its pane.</extracomment>
+        <translation>Positionierung der Features</translation>
+    </message>
+    <message id="2501">
+        <source>&amp;Feature Positioning</source>
+        <extracomment>Menu: Checks &gt; Features menu. &amp; stands before the access key, unique in the menu.</extracomment>
+        <translation>&amp;Positionierung der Features</translation>
+    </message>
+    <message id="2502">
+        <source>Feature Position</source>
+        <extracomment>Parameter label: check type 705. Must differ from the other labels of the type.</extracomment>
+        <translation>Position des Features</translation>
+    </message>
+    <message id="2503">
+        <source>Features must be positioned as required.</source>
+        <extracomment>Summary: what check type 705 asks for, on the summary page and in the report.</extracomment>
+        <translation>Features müssen wie gefordert positioniert sein.</translation>
+    </message>
+    <message id="2599">
+        <source>Feature Positioning</source>
+        <extracomment>Button text: catalogue button of check type 705.</extracomment>
+        <translation>Positionierung der Features</translation>
+    </message>
+    <message id="32917">
+        <source>File Name</source>
+        <extracomment>Heading: first column of the merge list.</extracomment>
+        <translation>Dateiname</translation>
+    </message>
+    <message id="32919">
+        <source>Path</source>
+        <extracomment>Heading: second column of the merge list; the full path.</extracomment>
+        <translation>Pfad</translation>
+    </message>
+    <message id="32920">
+        <source>Select the folder of the material databases</source>
+        <extracomment>Tooltip: folder button of the material panes.</extracomment>
+        <translation>Ordner der Werkstoffdatenbanken auswählen</translation>
+    </message>
+    <message id="32937">
+        <source>&amp;Misaligned Concentric Mates</source>
+        <extracomment>Menu: Checks &gt; Assemblies menu. &amp; stands before the access key, unique in the menu.</extracomment>
+        <translation>Ver&amp;setzte konzentrische Verknüpfungen</translation>
+    </message>
+    <message id="32938">
+        <source>Misaligned Concentric Mates</source>
+        <extracomment>Button text: catalogue button of check type 608.</extracomment>
+        <translation>Versetzte konzentrische Verknüpfungen</translation>
+    </message>
+    <message id="32939">
+        <source>Misaligned Concentric Mates</source>
+        <extracomment>Check name: check type 608; also the caption of its pane.</extracomment>
+        <translation>Versetzte konzentrische Verknüpfungen</translation>
+    </message>
+    <message id="32946">
+        <source>Concentric mates must be aligned as required.</source>
+        <extracomment>Summary: what check type 608 asks for, on the summary page and in the report.</extracomment>
+        <translation>Konzentrische Verknüpfungen müssen wie gefordert ausgerichtet sein.</translation>
+    </message>
+    <message id="32947">
+        <source>No Misalignment Allowed</source>
+        <extracomment>Parameter label: check type 608. Must differ from the other labels of the type. Also the name that the parameter gets when the pane is filled.</extracomment>
+        <translation>Kein Versatz zulässig</translation>
+    </message>
+    <message id="32948">
+        <source>Misalignment Allowed</source>
+        <extracomment>Parameter label: check type 608. Must differ from the other labels of the type. Also the name that the parameter gets when the pane is filled.</extracomment>
+        <translation>Versatz zulässig</translation>
+    </message>
+    <message id="32949">
+        <source>Maximum Misalignment</source>
+        <extracomment>Parameter label: check type 608. Must differ from the other labels of the type. Also the name that the parameter gets when the pane is filled.</extracomment>
+        <translation>Größter Versatz</translation>
+    </message>
+    <message id="32950">
+        <source>Include Subassemblies</source>
+        <extracomment>Parameter label: check type 608. Must differ from the other labels of the type. Also the name that the parameter gets when the pane is filled.</extracomment>
+        <translation>Unterbaugruppen einschließen</translation>
+    </message>
+    <message id="59137">
+        <source>CAP</source>
+        <extracomment>Other: status bar indicator of the caps lock key.</extracomment>
+        <translation>UF</translation>
+    </message>
+    <message id="59138">
+        <source>NUM</source>
+        <extracomment>Other: status bar indicator of the number lock key.</extracomment>
+        <translation>NUM</translation>
+    </message>
+    <message id="59139">
+        <source>SCRL</source>
+        <extracomment>Other: status bar indicator of the scroll lock key.</extracomment>
+        <translation>RF</translation>
+    </message>
+    <message id="59143">
+        <source>Checks: %d</source>
+        <extracomment>Other: status bar; %d is the number of checks in the standard.</extracomment>
+        <translation>Prüfungen: %d</translation>
+    </message>
+    <message id="61001">
+        <source>The file cannot be read: %1</source>
+        <extracomment>Message: why a document is not read: the file cannot be read; %1 is what the system says.</extracomment>
+        <translation>Die Datei kann nicht gelesen werden: %1</translation>
+    </message>
+    <message id="61002">
+        <source>The file is larger than %1 MiB, which no standard is.</source>
+        <extracomment>Message: why a document is not read: %1 is the limit in MiB.</extracomment>
+        <translation>Die Datei ist größer als %1 MiB; so groß ist kein Standard.</translation>
+    </message>
+    <message id="61003">
+        <source>The file uses a character encoding that is not supported. Save it as UTF-8 and try again.</source>
+        <extracomment>Message: why a document is not read: the encoding that the file names is not supported.</extracomment>
+        <translation>Die Datei verwendet eine Zeichenkodierung, die nicht unterstützt wird. Speichern Sie sie als UTF-8 und versuchen Sie es erneut.</translation>
+    </message>
+    <message id="61004">
+        <source>The file contains bytes that are not text. It may be damaged, or it is no XML file.</source>
+        <extracomment>Message: why a document is not read: bytes that are no characters.</extracomment>
+        <translation>Die Datei enthält Bytes, die kein Text sind. Sie ist vielleicht beschädigt, oder sie ist keine XML-Datei.</translation>
+    </message>
+    <message id="61005">
+        <source>The file declares a document type, which no standard does.</source>
+        <extracomment>Message: why a document is not read: a document type declaration (DOCTYPE).</extracomment>
+        <translation>Die Datei vereinbart einen Dokumenttyp, was kein Standard tut.</translation>
+    </message>
+    <message id="61006">
+        <source>The elements of the file are nested more than %1 levels deep, which no standard is.</source>
+        <extracomment>Message: why a document is not read: %1 is the limit.</extracomment>
+        <translation>Die Elemente der Datei sind mehr als %1 Ebenen tief verschachtelt; so tief ist kein Standard.</translation>
+    </message>
+    <message id="61007">
+        <source>An element of the file has more than %1 attributes, which no standard has.</source>
+        <extracomment>Message: why a document is not read: %1 is the limit.</extracomment>
+        <translation>Ein Element der Datei hat mehr als %1 Attribute; so viele hat kein Standard.</translation>
+    </message>
+    <message id="61008">
+        <source>The file has more content than can be read.</source>
+        <extracomment>Message: why a document is not read: too many elements and texts.</extracomment>
+        <translation>Die Datei hat mehr Inhalt, als gelesen werden kann.</translation>
+    </message>
+    <message id="61009">
+        <source>The file is damaged or no XML file. Line %1: %2</source>
+        <extracomment>Message: why a document is not read: %1 is the line, %2 the words of the XML library in English.</extracomment>
+        <translation>Die Datei ist beschädigt oder keine XML-Datei. Zeile %1: %2</translation>
+    </message>
+    <message id="61010">
+        <source>The file is empty.</source>
+        <extracomment>Message: why a document is not read: a file without content.</extracomment>
+        <translation>Die Datei ist leer.</translation>
+    </message>
+    <message id="61011">
+        <source>The file contains an attribute that is too long to be read.</source>
+        <extracomment>Message: why a document is not read: the text of an attribute.</extracomment>
+        <translation>Die Datei enthält ein Attribut, das zu lang ist, um gelesen zu werden.</translation>
+    </message>
+    <message id="61012">
+        <source>The file uses more different names than any standard does.</source>
+        <extracomment>Message: why a document is not read: names of elements and attributes.</extracomment>
+        <translation>Die Datei verwendet mehr verschiedene Namen als jeder Standard.</translation>
+    </message>
+    <message id="61101">
+        <source>The archive cannot be opened.</source>
+        <extracomment>Reason: why an archive is not read or written.</extracomment>
+        <translation>Das Archiv lässt sich nicht öffnen.</translation>
+    </message>
+    <message id="61102">
+        <source>The archive cannot be read: it is damaged or cut short.</source>
+        <extracomment>Reason: why an archive is not read or written.</extracomment>
+        <translation>Das Archiv lässt sich nicht lesen: Es ist beschädigt oder abgeschnitten.</translation>
+    </message>
+    <message id="61103">
+        <source>There are more than %1 files and folders.</source>
+        <extracomment>Reason: why an archive is not read or written. %1 is a number.</extracomment>
+        <translation>Es sind mehr als %1 Dateien und Ordner.</translation>
+    </message>
+    <message id="61104">
+        <source>A name is not valid UTF-8: %1</source>
+        <extracomment>Reason: why an archive is not read or written. %1 is a file name.</extracomment>
+        <translation>Ein Name ist kein gültiges UTF-8: %1</translation>
+    </message>
+    <message id="61105">
+        <source>A name is too long: %1</source>
+        <extracomment>Reason: why an archive is not read or written. %1 is a file name, shortened.</extracomment>
+        <translation>Ein Name ist zu lang: %1</translation>
+    </message>
+    <message id="61106">
+        <source>A name leads out of the folder: %1</source>
+        <extracomment>Reason: why an archive is not read or written. %1 is a file name.</extracomment>
+        <translation>Ein Name führt aus dem Ordner hinaus: %1</translation>
+    </message>
+    <message id="61107">
+        <source>A name cannot be used: %1</source>
+        <extracomment>Reason: why an archive is not read or written. %1 is a file name.</extracomment>
+        <translation>Ein Name ist nicht verwendbar: %1</translation>
+    </message>
+    <message id="61108">
+        <source>The archive holds a link: %1</source>
+        <extracomment>Reason: why an archive is not read or written. %1 is a file name.</extracomment>
+        <translation>Das Archiv enthält eine Verknüpfung: %1</translation>
+    </message>
+    <message id="61109">
+        <source>The archive holds something that is neither a file nor a folder: %1</source>
+        <extracomment>Reason: why an archive is not read or written. %1 is a file name.</extracomment>
+        <translation>Das Archiv enthält etwas, das weder Datei noch Ordner ist: %1</translation>
+    </message>
+    <message id="61110">
+        <source>A name is used twice: %1</source>
+        <extracomment>Reason: why an archive is not read or written. %1 is a file name.</extracomment>
+        <translation>Ein Name kommt doppelt vor: %1</translation>
+    </message>
+    <message id="61111">
+        <source>A name is used for a file and for a folder: %1</source>
+        <extracomment>Reason: why an archive is not read or written. %1 is a file name.</extracomment>
+        <translation>Ein Name steht für eine Datei und für einen Ordner: %1</translation>
+    </message>
+    <message id="61112">
+        <source>The archive holds an encrypted file: %1</source>
+        <extracomment>Reason: why an archive is not read or written. %1 is a file name.</extracomment>
+        <translation>Das Archiv enthält eine verschlüsselte Datei: %1</translation>
+    </message>
+    <message id="61113">
+        <source>The archive holds a file that is packed in an unknown way: %1</source>
+        <extracomment>Reason: why an archive is not read or written. %1 is a file name.</extracomment>
+        <translation>Das Archiv enthält eine Datei, die auf unbekannte Weise gepackt ist: %1</translation>
+    </message>
+    <message id="61114">
+        <source>The archive holds files that overlap: %1</source>
+        <extracomment>Reason: why an archive is not read or written. %1 is a file name.</extracomment>
+        <translation>Das Archiv enthält Dateien, die sich überlappen: %1</translation>
+    </message>
+    <message id="61115">
+        <source>The archive contradicts itself about a file: %1</source>
+        <extracomment>Reason: why an archive is not read or written. %1 is a file name.</extracomment>
+        <translation>Das Archiv widerspricht sich über eine Datei: %1</translation>
+    </message>
+    <message id="61116">
+        <source>The archive gives a wrong size for a file: %1</source>
+        <extracomment>Reason: why an archive is not read or written. %1 is a file name.</extracomment>
+        <translation>Das Archiv nennt für eine Datei eine falsche Größe: %1</translation>
+    </message>
+    <message id="61117">
+        <source>The archive holds a damaged file: %1</source>
+        <extracomment>Reason: why an archive is not read or written. %1 is a file name.</extracomment>
+        <translation>Das Archiv enthält eine beschädigte Datei: %1</translation>
+    </message>
+    <message id="61118">
+        <source>The files are larger than %1 MiB together.</source>
+        <extracomment>Reason: why an archive is not read or written. %1 is a number.</extracomment>
+        <translation>Die Dateien sind zusammen größer als %1 MiB.</translation>
+    </message>
+    <message id="61119">
+        <source>The archive would grow to more than %1 times its size.</source>
+        <extracomment>Reason: why an archive is not read or written. %1 is a number.</extracomment>
+        <translation>Das Archiv würde auf mehr als das %1-Fache seiner Größe wachsen.</translation>
+    </message>
+    <message id="61120">
+        <source>The folder has a file of this name already: %1</source>
+        <extracomment>Reason: why an archive is not read or written. %1 is a file name.</extracomment>
+        <translation>Der Ordner hat schon eine Datei dieses Namens: %1</translation>
+    </message>
+    <message id="61121">
+        <source>A link or a file stands where a folder is needed: %1</source>
+        <extracomment>Reason: why an archive is not read or written. %1 is the name of the folder.</extracomment>
+        <translation>Eine Verknüpfung oder Datei steht, wo ein Ordner gebraucht wird: %1</translation>
+    </message>
+    <message id="61122">
+        <source>A file cannot be written: %1</source>
+        <extracomment>Reason: why an archive is not read or written. %1 is a file name and the system's reason.</extracomment>
+        <translation>Eine Datei lässt sich nicht schreiben: %1</translation>
+    </message>
+    <message id="61123">
+        <source>A file cannot be read: %1</source>
+        <extracomment>Reason: why an archive is not read or written. %1 is a file name and the system's reason.</extracomment>
+        <translation>Eine Datei lässt sich nicht lesen: %1</translation>
+    </message>
+    <message id="61124">
+        <source>The archive cannot be written: %1</source>
+        <extracomment>Reason: why an archive is not read or written. %1 is the system's reason.</extracomment>
+        <translation>Das Archiv lässt sich nicht schreiben: %1</translation>
+    </message>
+    <message id="61201">
+        <source>The file could not be written: %1</source>
+        <extracomment>Message: reason that a file was not saved; %1 is the operating system's reason.</extracomment>
+        <translation>Die Datei konnte nicht geschrieben werden: %1</translation>
+    </message>
+    <message id="61202">
+        <source>No new file can be made in its folder: %1</source>
+        <extracomment>Message: reason that a file was not saved; a new file is first written beside the old one. %1 is the operating system's reason.</extracomment>
+        <translation>In ihrem Ordner kann keine neue Datei angelegt werden: %1</translation>
+    </message>
+    <message id="61203">
+        <source>The disk did not take the file: %1</source>
+        <extracomment>Message: reason that a file was not saved; the disk reported an error at the end of writing. %1 is the operating system's reason.</extracomment>
+        <translation>Der Datenträger hat die Datei nicht angenommen: %1</translation>
+    </message>
+    <message id="61204">
+        <source>The finished file could not take the place of the old one: %1</source>
+        <extracomment>Message: reason that a file was not saved; %1 is the operating system's reason.</extracomment>
+        <translation>Die fertige Datei konnte die alte nicht ersetzen: %1</translation>
+    </message>
+    <message id="61205">
+        <source>The file is open elsewhere.</source>
+        <extracomment>Message: reason that a file was not saved; another window or another user has it open.</extracomment>
+        <translation>Die Datei ist anderswo geöffnet.</translation>
+    </message>
+    <message id="61206">
+        <source>The file could not be read: %1</source>
+        <extracomment>Message: reason that a file was not copied; %1 is the operating system's reason.</extracomment>
+        <translation>Die Datei konnte nicht gelesen werden: %1</translation>
+    </message>
+    <message id="61207">
+        <source>The access rights of the file could not be kept: %1</source>
+        <extracomment>Message: reason that a file was not saved; %1 is the operating system's reason.</extracomment>
+        <translation>Die Zugriffsrechte der Datei konnten nicht erhalten werden: %1</translation>
+    </message>
+    <message id="61208">
+        <source>The file is write-protected: %1</source>
+        <extracomment>Message: reason that a file was not saved; %1 is the operating system's reason.</extracomment>
+        <translation>Die Datei ist schreibgeschützt: %1</translation>
+    </message>
+    <message id="61209">
+        <source>The name does not belong to an ordinary file.</source>
+        <extracomment>Message: reason that a file was not saved or copied; the name is that of a folder or a device.</extracomment>
+        <translation>Der Name gehört nicht zu einer gewöhnlichen Datei.</translation>
+    </message>
+    <message id="61210">
+        <source>The file cannot be reached: %1</source>
+        <extracomment>Message: reason that a file was not saved; %1 is the operating system's reason.</extracomment>
+        <translation>Die Datei ist nicht erreichbar: %1</translation>
+    </message>
+    <message id="61211">
+        <source>The file is saved, but a power failure might still undo that: %1</source>
+        <extracomment>Message: warning after a file was saved; the disk reported an error about the folder. %1 is the operating system's reason.</extracomment>
+        <translation>Die Datei ist gespeichert, ein Stromausfall könnte das aber noch rückgängig machen: %1</translation>
+    </message>
+    <message id="61301">
+        <source>These pictures of the report could not be written: %1</source>
+        <extracomment>Message: %1 is a list of names of pictures.</extracomment>
+        <translation>Diese Bilder des Berichts konnten nicht geschrieben werden: %1</translation>
+    </message>
+    <message id="61302">
+        <source>The report page could not be made: %1</source>
+        <extracomment>Message: %1 is the reason, in words of a library.</extracomment>
+        <translation>Die Berichtsseite konnte nicht erstellt werden: %1</translation>
+    </message>
+    <message id="61303">
+        <source>Page %1 of %2</source>
+        <extracomment>Other: foot of each page of a printed report; page and number of pages.</extracomment>
+        <translation>Seite %1 von %2</translation>
+    </message>
+    <message id="61304">
+        <source>The report was stopped.</source>
+        <extracomment>Message: the user stopped the making of a report.</extracomment>
+        <translation>Der Bericht wurde abgebrochen.</translation>
+    </message>
+    <message id="61305">
+        <source>The pages of the report could not be drawn.</source>
+        <extracomment>Message: the printer or the file took no pages.</extracomment>
+        <translation>Die Seiten des Berichts konnten nicht gezeichnet werden.</translation>
+    </message>
+    <message id="61401">
+        <source>The file is neither a standard nor an archive that holds one.</source>
+        <extracomment>Message: reason that a file cannot be opened, packed or merged.</extracomment>
+        <translation>Die Datei ist weder ein Standard noch ein Archiv, das einen enthält.</translation>
+    </message>
+    <message id="61402">
+        <source>The folder of the merge cannot be made: %1</source>
+        <extracomment>Message: reason that a merge did not take place; %1 is the folder.</extracomment>
+        <translation>Der Ordner für das Zusammenführen kann nicht angelegt werden: %1</translation>
+    </message>
+    <message id="61403">
+        <source>This standard was saved by a later version of the program: %1</source>
+        <extracomment>Warning of a merge; %1 is the number of the version.</extracomment>
+        <translation>Dieser Standard wurde von einer neueren Version des Programms gespeichert: %1</translation>
+    </message>
+    <message id="61404">
+        <source>A check without a type was found; it and all that follow were left out.</source>
+        <extracomment>Warning of a merge about one of its files.</extracomment>
+        <translation>Eine Prüfung ohne Typ wurde gefunden; sie und alle folgenden wurden ausgelassen.</translation>
+    </message>
+    <message id="61405">
+        <source>The converted value of “%1” was rounded to six decimals.</source>
+        <extracomment>Warning of a merge about a check from a file of another length unit; %1 is the parameter.</extracomment>
+        <translation>Der umgerechnete Wert von „%1“ wurde auf sechs Nachkommastellen gerundet.</translation>
+    </message>
+    <message id="61406">
+        <source>Only the first value of “%1” was converted to the length unit of the result.</source>
+        <extracomment>Warning of a merge about a check from a file of another length unit; %1 is the parameter.</extracomment>
+        <translation>Nur der erste Wert von „%1“ wurde in die Längeneinheit des Ergebnisses umgerechnet.</translation>
+    </message>
+    <message id="61407">
+        <source>The correction of “%1” was not converted to the length unit of the result.</source>
+        <extracomment>Warning of a merge about a check from a file of another length unit; %1 is the parameter.</extracomment>
+        <translation>Die Korrektur von „%1“ wurde nicht in die Längeneinheit des Ergebnisses umgerechnet.</translation>
+    </message>
+    <message id="61408">
+        <source>The lengths of its single checks were not converted to the length unit of the result.</source>
+        <extracomment>Warning of a merge about a group of checks from a file of another length unit.</extracomment>
+        <translation>Die Längen ihrer Einzelprüfungen wurden nicht in die Längeneinheit des Ergebnisses umgerechnet.</translation>
+    </message>
+    <message id="61409">
+        <source>Its angles were not converted to the angle unit of the result.</source>
+        <extracomment>Warning of a merge about a check from a file of another angle unit.</extracomment>
+        <translation>Ihre Winkel wurden nicht in die Winkeleinheit des Ergebnisses umgerechnet.</translation>
+    </message>
+</context>
+</TS>
