@@ -89,6 +89,15 @@ bool IsTiny(const QByteArray& ascii) {
 } // namespace
 
 CString FormatInt(long value) {
+    // Codes and flags, of which a file has hundreds of thousands, share their texts.
+    static const std::array<CString, 256> small = [] {
+        std::array<CString, 256> texts;
+        for (size_t i = 0; i < texts.size(); ++i)
+            texts[i] = QString::number(i);
+        return texts;
+    }();
+    if (value >= 0 && value < static_cast<long>(small.size()))
+        return small[static_cast<size_t>(value)];
     return QString::number(static_cast<qlonglong>(value));
 }
 

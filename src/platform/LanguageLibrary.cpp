@@ -1,5 +1,7 @@
 #include "platform/LanguageLibrary.h"
 
+#include "platform/PackCheck.h"
+
 #include <QDir>
 #include <QFile>
 #include <QHash>
@@ -14,14 +16,11 @@ namespace {
 // One registered pack with its texts.
 struct Pack {
     CString file;
-    CString language;
+    CString language; // as its folder is called
+    CString root;     // where its content begins, with the slash
     QTranslator texts;
 
-    ~Pack() {
-        if (!file.isEmpty())
-            QResource::unregisterResource(file);
-    }
-    CString Root() const { return ":/" + language + "/"; }
+    ~Pack() { QResource::unregisterResource(file); }
 };
 
 struct Library {
@@ -44,13 +43,23 @@ CString FindFolderAnyCase(const CString& parent, const CString& name) {
     return {};
 }
 
+bool IsWholeFile(const CString& file) {
+    QFile pack(file);
+    if (!pack.open(QIODevice::ReadOnly))
+        return false;
+    const uchar* bytes = pack.map(0, pack.size());
+    return bytes && IsWholePack(QByteArrayView(bytes, pack.size()));
+}
+
 std::unique_ptr<Pack> OpenPack(const CString& file) {
-    if (!QResource::registerResource(file))
+    if (!IsWholeFile(file) || !QResource::registerResource(file))
         return nullptr;
     auto pack = std::make_unique<Pack>();
     pack->file = file;
     pack->language = QFileInfo(file).dir().dirName();
-    if (!pack->texts.load(pack->Root() + "strings.qm"))
+    // The folder may be written in another case than the name inside the pack.
+    pack->root = ":/" + FindFolderAnyCase(":/", pack->language) + "/";
+    if (!pack->texts.load(pack->root + "strings.qm"))
         return nullptr;
     return pack;
 }
@@ -118,7 +127,7 @@ QByteArray LoadImageSource(ImageType type, unsigned id) {
     for (const Pack* pack : {library.user.get(), library.english.get()}) {
         if (!pack)
             continue;
-        QFile file(pack->Root() + name);
+        QFile file(pack->root + name);
         if (file.open(QIODevice::ReadOnly))
             return file.readAll();
     }

@@ -1,0 +1,18 @@
+#include "fuzz/ArchiveProperty.h"
+#include "support/MemoryFolder.h"
+
+#include <QTemporaryDir>
+#include <cstdint>
+#include <cstdio>
+#include <cstdlib>
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size) {
+    static const QTemporaryDir folder(MemoryFolderTemplate());
+    static ArchiveRoom room(folder.path().toStdString());
+    const std::string problem = room.Try({reinterpret_cast<const char*>(bytes), size});
+    if (!problem.empty()) {
+        std::fprintf(stderr, "%s\n", problem.c_str());
+        std::abort();
+    }
+    return 0;
+}

@@ -1,0 +1,7 @@
+#include "support/RunTests.h"
+
+#include <QApplication>
+
+int main(int argc, char** argv) {
+    return RunTests<QApplication>(argc, argv);
+}
