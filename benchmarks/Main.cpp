@@ -1,0 +1,86 @@
+#include "Figures.h"
+#include "platform/LanguageLibrary.h"
+
+#include <QCoreApplication>
+#include <benchmark/benchmark.h>
+#include <chrono>
+#include <cstdio>
+#include <malloc.h>
+
+#include <algorithm>
+
+namespace {
+
+// Keeps the times and prints nothing: the table of figures is what a reader wants.
+class Collector : public benchmark::BenchmarkReporter {
+public:
+    bool ReportContext(const Context&) override { return true; }
+    void ReportRuns(const std::vector<Run>& runs) override {
+        for (const Run& run : runs)
+            if (run.aggregate_name == "median")
+                median = run.GetAdjustedRealTime();
+    }
+    double median = 0;
+};
+
+double Seconds(const std::function<void()>& task) {
+    const auto start = std::chrono::steady_clock::now();
+    task();
+    return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+}
+
+} // namespace
+
+double MedianTime(const std::string& name, const std::function<void()>& task) {
+    benchmark::ClearRegisteredBenchmarks();
+    benchmark::RegisterBenchmark(name.c_str(),
+                                 [&task](benchmark::State& state) {
+                                     for (auto _ : state)
+                                         task();
+                                 })
+        ->Repetitions(5)
+        ->MinTime(0.1)
+        ->UseRealTime()
+        ->Unit(benchmark::kNanosecond);
+    Collector collector;
+    benchmark::RunSpecifiedBenchmarks(&collector);
+    return collector.median;
+}
+
+std::vector<double> MedianTimes(const std::vector<std::function<void()>>& tasks, int rounds) {
+    std::vector<std::vector<double>> times(tasks.size());
+    for (int round = 0; round <= rounds; ++round)
+        for (size_t i = 0; i < tasks.size(); ++i)
+            if (const double seconds = Seconds(tasks[i]); round > 0) // the first round warms up
+                times[i].push_back(seconds);
+    std::vector<double> medians;
+    for (std::vector<double>& list : times) {
+        std::nth_element(list.begin(), list.begin() + rounds / 2, list.end());
+        medians.push_back(list[static_cast<size_t>(rounds / 2)]);
+    }
+    return medians;
+}
+
+int main(int argc, char** argv) {
+    // Memory stays with the process, for the library alone as for the tool: the work is to be measured, and
+    // not the system's giving and taking of pages, which on a shared machine is mostly noise.
+    mallopt(M_TRIM_THRESHOLD, 1 << 30);
+    mallopt(M_MMAP_THRESHOLD, 1 << 30);
+    QCoreApplication application(argc, argv);
+    if (!LoadLanguage(RULEWARD_BIN_FOLDER, "English")) {
+        std::fprintf(stderr, "The English language library is missing from %s.\n", RULEWARD_BIN_FOLDER);
+        return 1;
+    }
+    benchmark::Initialize(&argc, argv);
+    bool allKept = true;
+    std::printf("%-58s %10s %10s\n", "figure", "value", "bound");
+    for (const auto& measure : {FileFigures, ListingFigures, MergeFigures, ProcessFigures})
+        for (const Figure& figure : measure()) {
+            const bool kept = figure.value <= figure.bound;
+            allKept &= kept;
+            std::printf("%-58s %10.2f %10.2f %s\n", figure.name.c_str(), figure.value, figure.bound,
+                        kept ? "ok" : "over");
+            std::fflush(stdout);
+        }
+    return allKept ? 0 : 1;
+}
