@@ -9,6 +9,7 @@
 #include <libxml/parserInternals.h>
 #include <libxml/tree.h>
 #include <new>
+#include <vector>
 
 namespace {
 
@@ -19,7 +20,8 @@ struct Feed {
     const char* end;
     int piece; // bytes that the library is given at a time
     XmlNames leftOut;
-    int leftOutDepth = 0; // within an element that is left out
+    int leftOutDepth = 0;             // within an element that is left out
+    std::vector<const xmlChar*> kept; // the attributes of an element that are not
     xmlParserCtxt* context = nullptr;
     XmlProblem problem;
 };
@@ -82,14 +84,16 @@ void StartElement(void* context, const xmlChar* name, const xmlChar* prefix, con
         ++feed.leftOutDepth;
         return;
     }
-    int kept = 0;
+    // The list stays the library's: it frees values by their place in it.
+    feed.kept.clear();
     for (int i = 0; i < attributes; ++i) {
         const xmlChar** attribute = attributeList + i * PointersOfAttribute;
         if (!IsLeftOut(feed, *attribute))
-            std::copy_n(attribute, PointersOfAttribute, attributeList + PointersOfAttribute * kept++);
+            feed.kept.insert(feed.kept.end(), attribute, attribute + PointersOfAttribute);
     }
+    const auto kept = static_cast<int>(feed.kept.size()) / PointersOfAttribute;
     xmlSAX2StartElementNs(context, name, prefix, uri, namespaces, namespaceList, kept, defaulted,
-                          attributeList);
+                          feed.kept.data());
 }
 
 void EndElement(void* context, const xmlChar* name, const xmlChar* prefix, const xmlChar* uri) {
@@ -144,7 +148,7 @@ XmlTree ParseXml(const XmlSource& source, XmlProblem& problem, XmlNames leftOut)
     // pieces, documents with long attributes would open or not by chance.
     const int piece = source.hasLongTags ? 400 : 4000;
     const char* begin = source.utf8.constData();
-    Feed feed{begin, begin + source.utf8.size(), piece, leftOut, 0, nullptr, {}};
+    Feed feed{begin, begin + source.utf8.size(), piece, leftOut, 0, {}, nullptr, {}};
     const std::unique_ptr<xmlParserCtxt, FreeContext> context(
         xmlCreateIOParserCtxt(nullptr, nullptr, ReadPiece, nullptr, &feed, XML_CHAR_ENCODING_UTF8));
     if (!context)
