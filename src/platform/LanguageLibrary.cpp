@@ -2,6 +2,7 @@
 
 #include "platform/PackCheck.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QHash>
@@ -20,7 +21,10 @@ struct Pack {
     CString root;     // where its content begins, with the slash
     QTranslator texts;
 
-    ~Pack() { QResource::unregisterResource(file); }
+    ~Pack() {
+        QCoreApplication::removeTranslator(&texts);
+        QResource::unregisterResource(file);
+    }
 };
 
 struct Library {
@@ -61,6 +65,9 @@ std::unique_ptr<Pack> OpenPack(const CString& file) {
     pack->root = ":/" + FindFolderAnyCase(":/", pack->language) + "/";
     if (!pack->texts.load(pack->root + "strings.qm"))
         return nullptr;
+    // For the texts inside templates. The one installed last is asked first.
+    if (QCoreApplication::instance())
+        QCoreApplication::installTranslator(&pack->texts);
     return pack;
 }
 
@@ -121,9 +128,11 @@ CString LoadString(unsigned id) {
     return text;
 }
 
-QByteArray LoadImageSource(ImageType type, unsigned id) {
+namespace {
+
+// The user's language may have a file of its own; else the English one serves.
+QByteArray ReadFromLibrary(const CString& name) {
     const Library& library = Current();
-    const CString name = CString("images/%1/%2.svg").arg(QLatin1String(FolderOf(type))).arg(id);
     for (const Pack* pack : {library.user.get(), library.english.get()}) {
         if (!pack)
             continue;
@@ -132,6 +141,16 @@ QByteArray LoadImageSource(ImageType type, unsigned id) {
             return file.readAll();
     }
     return {};
+}
+
+} // namespace
+
+QByteArray LoadTemplateSource(unsigned number) {
+    return ReadFromLibrary(CString("templates/%1.ui").arg(number));
+}
+
+QByteArray LoadImageSource(ImageType type, unsigned id) {
+    return ReadFromLibrary(CString("images/%1/%2.svg").arg(QLatin1String(FolderOf(type))).arg(id));
 }
 
 QImage LoadImageOf(ImageType type, unsigned id, qreal scale) {

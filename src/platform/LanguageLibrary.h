@@ -19,8 +19,12 @@ bool LoadLanguage(const CString& moduleFolder, const CString& language);
 // The name of the language whose texts are in force, as its folder is called; empty before LoadLanguage.
 CString LoadedLanguage();
 
-// The text of a number, or the empty text where the library has none.
+// The text of a number, or the empty text where the library has none. Texts with an id of another kind, such as
+// "1541.1005" for a caption inside a template, are had through Qt's own translation by id.
 CString LoadString(unsigned id);
+
+// The source of a window's layout, empty where there is none.
+QByteArray LoadTemplateSource(unsigned number);
 
 // The kinds of picture; one number may name a picture of each kind.
 enum class ImageType { Bitmap, Icon, Toolbar, Cursor };
