@@ -25,7 +25,8 @@ public:
     virtual CStandard& GetStandard() = 0;
     // The unit-bearing controls of this document's panes, which follow its units.
     virtual UnitSettingsList& GetUnitSettings() = 0;
-    // Whether a standard was just read whose checks are not on the page yet; the flag falls with the question.
+    // Whether a standard was just read whose checks are not on the page yet; the flag falls with the
+    // question.
     virtual bool TakeLoadedFlag() = 0;
 
     virtual std::unique_ptr<CExtDialog> MakePane(const PageCheckRow& row) = 0;

@@ -54,9 +54,9 @@ public:
 
 private:
     EditingHost& m_host;
-    int SelectedPos = -1;                    // of the pane with the keyboard, -1 for none
-    int NextPos = 0;                         // -1 while the stack is empty after a removal
-    std::map<int, int> PosToSequence;        // to the number of the check within the standard
+    int SelectedPos = -1;             // of the pane with the keyboard, -1 for none
+    int NextPos = 0;                  // -1 while the stack is empty after a removal
+    std::map<int, int> PosToSequence; // to the number of the check within the standard
     std::map<MQC_CheckType_e, int> TypeToPos;
     std::vector<int> Selection; // positions; several only after a selection with Ctrl
     PageTable Infos;

@@ -3,8 +3,8 @@
 #include <utility>
 
 CPDCheckInfo::CPDCheckInfo(const PageCheckRow& row, std::unique_ptr<CExtDialog> dialog)
-    : Group(row.group), Position(row.position), DialogTemplateID(row.dialogTemplateID), Dialog(std::move(dialog)),
-      CommandID(row.commandID), CheckType(row.type) {}
+    : Group(row.group), Position(row.position), DialogTemplateID(row.dialogTemplateID),
+      Dialog(std::move(dialog)), CommandID(row.commandID), CheckType(row.type) {}
 
 CPDCheckInfo::~CPDCheckInfo() = default;
 

@@ -37,8 +37,8 @@ private:
 class PageTable {
 public:
     void Add(const PageCheckRow& row, std::unique_ptr<CExtDialog> dialog);
-    CPDCheckInfo* Find(MQC_CheckType_e type) const;            // null where there is none
-    CPDCheckInfo* FindByCommand(unsigned commandID) const;     // null where there is none
+    CPDCheckInfo* Find(MQC_CheckType_e type) const;                       // null where there is none
+    CPDCheckInfo* FindByCommand(unsigned commandID) const;                // null where there is none
     const std::vector<MQC_CheckType_e>& Order() const { return m_order; } // as rows were added
 
 private:

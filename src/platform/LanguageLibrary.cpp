@@ -22,7 +22,8 @@ struct Pack {
     QTranslator texts;
 
     ~Pack() {
-        QCoreApplication::removeTranslator(&texts);
+        if (QCoreApplication::instance())
+            QCoreApplication::removeTranslator(&texts);
         QResource::unregisterResource(file);
     }
 };

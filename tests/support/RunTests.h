@@ -16,8 +16,11 @@ inline bool HasLocaleAskedFor() {
     return asked.isEmpty() || asked == std::setlocale(LC_NUMERIC, nullptr);
 }
 
-// `Application` is QGuiApplication, or QApplication where widgets are tested.
-template <class Application> int RunTests(int argc, char** argv) {
+struct NoSetup {};
+
+// `Application` is QGuiApplication, or QApplication where widgets are tested. A `Setup` is made before the
+// first test and lives to the last.
+template <class Application, class Setup = NoSetup> int RunTests(int argc, char** argv) {
     ::testing::InitGoogleTest(&argc, argv);
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QTemporaryDir home;
@@ -32,5 +35,6 @@ template <class Application> int RunTests(int argc, char** argv) {
         std::fprintf(stderr, "The English language library is missing from %s.\n", RULEWARD_BIN_FOLDER);
         return 1;
     }
+    [[maybe_unused]] Setup setup;
     return RUN_ALL_TESTS();
 }

@@ -1,6 +1,6 @@
-// Commands: each is one QAction, whatever menus, toolbars and shortcuts show it. Who answers a command is asked
-// afresh each time: the first target of the chain that knows it. Whether it is enabled and checked is asked when
-// the program goes idle, so that nobody has to tell about every change.
+// Commands: each is one QAction, whatever menus, toolbars and shortcuts show it. Who answers a command is
+// asked afresh each time: the first target of the chain that knows it. Whether it is enabled and checked is
+// asked when the program goes idle, so that nobody has to tell about every change.
 #pragma once
 
 #include "platform/Text.h"
@@ -39,7 +39,8 @@ public:
     explicit CommandRouter(CommandChain chain);
     ~CommandRouter() override;
 
-    // The action of a command, made on first use. The router owns it; a command that nobody knows is disabled.
+    // The action of a command, made on first use. The router owns it; a command that nobody knows is
+    // disabled.
     QAction* ActionOf(unsigned id);
 
     // Runs a command where its state, asked afresh, is enabled. False where it is disabled or nobody's.

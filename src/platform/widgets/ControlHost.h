@@ -30,10 +30,10 @@ public:
 
     bool IsSaving() const { return m_save; }
     void Text(int number, CString& value) const;
-    void Check(int number, int& value) const;                              // 0 or 1
-    void Radio(std::initializer_list<int> numbers, int& value) const;      // place of the chosen one, or -1
-    void ComboIndex(int number, int& value) const;                         // row, or -1
-    void Number(int number, int& value) const;                             // of a spin box
+    void Check(int number, int& value) const;                         // 0 or 1
+    void Radio(std::initializer_list<int> numbers, int& value) const; // place of the chosen one, or -1
+    void ComboIndex(int number, int& value) const;                    // row, or -1
+    void Number(int number, int& value) const;                        // of a spin box
 
 private:
     const ControlHost& m_host;

@@ -42,8 +42,8 @@ constexpr int Margin = 8;
 constexpr int CaptionHeight = 20; // of a pane
 constexpr int RowHeight = 24;     // of a field
 
-// The face of every page and pane: "Segoe UI", or for Japanese what the host's setting says. Where the face is
-// not installed the desktop's own sans-serif face stands in for it.
+// The face of every page and pane: "Segoe UI", or for Japanese what the host's setting says. Where the face
+// is not installed the desktop's own sans-serif face stands in for it.
 QFont PageFont();   // 8 point
 QFont WindowFont(); // of menus, bars and dialogs
 

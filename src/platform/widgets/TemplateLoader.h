@@ -8,8 +8,8 @@
 #include <functional>
 
 // Puts the controls of the template, with its layout, into `window`, and tells each by the number that is its
-// object name. False, with nothing told, where the library has no such template or it is damaged. A template's
-// texts are numbers of the language library.
+// object name. False, with nothing told, where the library has no such template or it is damaged. A
+// template's texts are numbers of the language library.
 bool FillFromTemplate(unsigned number, QWidget& window, QHash<int, QWidget*>& controls);
 
 // A class of the program's own that templates may name. To be registered once, before the first template that
