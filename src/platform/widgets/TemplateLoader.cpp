@@ -67,10 +67,13 @@ private:
 } // namespace
 
 bool FillFromTemplate(unsigned number, QWidget& window, QHash<int, QWidget*>& controls) {
-    static Loader loader;
-    const QByteArray source = LoadTemplateSource(number);
+    return FillFromSource(LoadTemplateSource(number), window, controls);
+}
+
+bool FillFromSource(const QByteArray& source, QWidget& window, QHash<int, QWidget*>& controls) {
     if (source.isEmpty())
         return false;
+    static Loader loader;
     QHash<int, QWidget*> made;
     if (!loader.Fill(source, window, made))
         return false;

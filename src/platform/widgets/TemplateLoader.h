@@ -3,6 +3,7 @@
 
 #include "platform/Text.h"
 
+#include <QByteArray>
 #include <QHash>
 #include <QWidget>
 #include <functional>
@@ -11,6 +12,9 @@
 // object name. False, with nothing told, where the library has no such template or it is damaged. A
 // template's texts are numbers of the language library.
 bool FillFromTemplate(unsigned number, QWidget& window, QHash<int, QWidget*>& controls);
+
+// The same from a template's source.
+bool FillFromSource(const QByteArray& source, QWidget& window, QHash<int, QWidget*>& controls);
 
 // A class of the program's own that templates may name. To be registered once, before the first template that
 // names it; a class that is not registered makes its template a damaged one.
