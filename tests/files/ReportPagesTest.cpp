@@ -6,6 +6,7 @@
 #include "files/ReportDocument.h"
 #include "files/ReportHtml.h"
 #include "files/RunProgram.h"
+#include "platform/TextNumbers.h"
 #include "support/TestFolder.h"
 
 #include <QBuffer>
@@ -29,6 +30,26 @@ QByteArray PageOf(CStandard& standard, const TestFolder& folder) {
     const ReportFiles files = WriteReportFiles(standard, folder.Path());
     return RenderReportHtml(files.xmlPath, files.stylesheetPath).html;
 }
+
+// What the library says on its own, kept from the terminal.
+class LibraryWords {
+public:
+    LibraryWords() : m_before(qInstallMessageHandler(Keep)) { Kept().clear(); }
+    ~LibraryWords() { qInstallMessageHandler(m_before); }
+    LibraryWords(const LibraryWords&) = delete;
+    LibraryWords& operator=(const LibraryWords&) = delete;
+
+    const CStringArray& Lines() const { return Kept(); }
+
+private:
+    static CStringArray& Kept() {
+        static CStringArray lines;
+        return lines;
+    }
+    static void Keep(QtMsgType, const QMessageLogContext&, const QString& line) { Kept().append(line); }
+
+    QtMessageHandler m_before;
+};
 
 // The words of a PDF file, page by page.
 CStringArray TextOf(const CString& path) {
@@ -193,7 +214,11 @@ TEST(ReportPages, FailureToWriteIsTold) {
 
 TEST(ReportPages, DeviceThatTakesNothingIsTold) {
     QPdfWriter writer(CString("/nonexistent/folder/a.pdf"));
-    EXPECT_FALSE(DrawReportPages("x", "/", "x", writer).ok);
+    const LibraryWords words;
+    const FileResult result = DrawReportPages("x", "/", "x", writer);
+    EXPECT_FALSE(result.ok);
+    EXPECT_EQ(result.reason, LoadString(ReportNotDrawn));
+    EXPECT_EQ(words.Lines(), CStringArray("QPainter::begin(): Returned false"));
 }
 
 TEST(ReportDocument, PicturesOfTheReportAreShown) {
