@@ -6,64 +6,74 @@
 
 namespace {
 
+struct WrongUsage {
+    const char* words;
+    const char* problem;
+    const char* command; // whose help is named; none: that of the program
+};
+
+constexpr WrongUsage WrongUsages[] = {
+    // nothing at all
+    {"", "no command given", ""},
+    {"--language German", "no command given", ""},
+    // words that are not known
+    {"shwo a.kvstd", "unknown command shwo", ""},
+    {"''", "unknown command ", ""},
+    {"--verbose", "unknown option --verbose", ""},
+    {"help shwo", "unknown command shwo", ""},
+    {"--language Klingon catalogue", "unknown language Klingon", ""},
+    {"show --everything a.kvstd", "unknown option --everything", "show"},
+    {"show -a a.kvstd", "unknown option -a", "show"},
+    {"show --all=yes a.kvstd", "unknown option --all=yes", "show"},
+    {"pack -o a b", "unknown option -o", "pack"},
+    // words that are missing
+    {"--language", "option --language needs NAME", ""},
+    {"--language= catalogue", "option --language needs NAME", ""},
+    {"merge a b -o", "option -o needs OUT", "merge"},
+    {"convert a -o b --length", "option --length needs UNIT", "convert"},
+    {"merge a b", "option -o OUT is needed", "merge"},
+    {"merge a b -o ''", "option -o OUT is needed", "merge"},
+    {"report a", "option -o FOLDER is needed", "report"},
+    {"convert a --length mm", "option -o OUT is needed", "convert"},
+    {"convert a -o b", "option --length or --angle is needed", "convert"},
+    // units that are not known
+    {"convert a -o b --length furlong", "unknown unit furlong", "convert"},
+    {"convert a -o b --length MM", "unknown unit MM", "convert"},
+    {"convert a -o b --length ''", "unknown unit ", "convert"},
+    {"convert a -o b --length mm --angle grad", "unknown unit grad", "convert"},
+    // too few or too many operands
+    {"merge -o m a", "too few arguments", "merge"},
+    {"pack a", "too few arguments", "pack"},
+    {"show a b", "too many arguments", "show"},
+    {"report -o r a b", "too many arguments", "report"},
+    {"pack a b c", "too many arguments", "pack"},
+    {"unpack a b c", "too many arguments", "unpack"},
+    {"convert -o c a b", "too many arguments", "convert"},
+    {"catalogue a", "too many arguments", "catalogue"},
+    {"show", "too few arguments", "show"},
+    {"validate", "too few arguments", "validate"},
+    {"report -o r", "too few arguments", "report"},
+    {"convert -o c", "too few arguments", "convert"},
+    {"pack", "too few arguments", "pack"},
+    {"unpack", "too few arguments", "unpack"},
+};
+
 class Usage : public CliRoom {
 protected:
     // Ends with code 2, says what is wrong and where help is to be had, and prints nothing.
-    void ExpectWrong(const CString& words, const CString& problem, const CString& command = {}) {
+    void ExpectWrong(const WrongUsage& wrong) {
+        const CString command = wrong.command;
         const CString help = "kvstd: try \"kvstd " + (command.isEmpty() ? "" : command + " ") + "--help\"\n";
-        EXPECT_EQ(Run(words, 2, ("kvstd: " + problem + "\n" + help).toUtf8()), "") << qPrintable(words);
+        EXPECT_EQ(Run(wrong.words, 2, ("kvstd: " + CString(wrong.problem) + "\n" + help).toUtf8()), "")
+            << wrong.words;
     }
 };
 
 } // namespace
 
-TEST_F(Usage, NothingAtAll) {
-    ExpectWrong("", "no command given");
-    ExpectWrong("--language German", "no command given");
-}
-
-TEST_F(Usage, UnknownWords) {
-    ExpectWrong("shwo a.kvstd", "unknown command shwo");
-    ExpectWrong("''", "unknown command ");
-    ExpectWrong("--verbose", "unknown option --verbose");
-    ExpectWrong("help shwo", "unknown command shwo");
-    ExpectWrong("--language Klingon catalogue", "unknown language Klingon");
-    ExpectWrong("show --everything a.kvstd", "unknown option --everything", "show");
-    ExpectWrong("show -a a.kvstd", "unknown option -a", "show");
-    ExpectWrong("show --all=yes a.kvstd", "unknown option --all=yes", "show");
-    ExpectWrong("pack -o a b", "unknown option -o", "pack");
-}
-
-TEST_F(Usage, MissingWords) {
-    ExpectWrong("--language", "option --language needs NAME");
-    ExpectWrong("--language= catalogue", "option --language needs NAME");
-    ExpectWrong("merge a b -o", "option -o needs OUT", "merge");
-    ExpectWrong("convert a -o b --length", "option --length needs UNIT", "convert");
-    ExpectWrong("merge a b", "option -o OUT is needed", "merge");
-    ExpectWrong("merge a b -o ''", "option -o OUT is needed", "merge");
-    ExpectWrong("report a", "option -o FOLDER is needed", "report");
-    ExpectWrong("convert a --length mm", "option -o OUT is needed", "convert");
-    ExpectWrong("convert a -o b", "option --length or --angle is needed", "convert");
-}
-
-TEST_F(Usage, UnknownUnits) {
-    ExpectWrong("convert a -o b --length furlong", "unknown unit furlong", "convert");
-    ExpectWrong("convert a -o b --length MM", "unknown unit MM", "convert");
-    ExpectWrong("convert a -o b --length ''", "unknown unit ", "convert");
-    ExpectWrong("convert a -o b --length mm --angle grad", "unknown unit grad", "convert");
-}
-
-TEST_F(Usage, NumberOfOperands) {
-    for (const char* command : {"show", "validate", "report -o r", "convert -o c", "pack", "unpack"})
-        ExpectWrong(command, "too few arguments", CString(command).section(' ', 0, 0));
-    ExpectWrong("merge -o m a", "too few arguments", "merge");
-    ExpectWrong("pack a", "too few arguments", "pack");
-    ExpectWrong("show a b", "too many arguments", "show");
-    ExpectWrong("report -o r a b", "too many arguments", "report");
-    ExpectWrong("pack a b c", "too many arguments", "pack");
-    ExpectWrong("unpack a b c", "too many arguments", "unpack");
-    ExpectWrong("convert -o c a b", "too many arguments", "convert");
-    ExpectWrong("catalogue a", "too many arguments", "catalogue");
+TEST_F(Usage, WrongWordsAreNamedWithWhereHelpIs) {
+    for (const WrongUsage& wrong : WrongUsages)
+        ExpectWrong(wrong);
 }
 
 TEST_F(Usage, AfterTwoDashesOptionsAreNames) {
@@ -74,7 +84,7 @@ TEST_F(Usage, AfterTwoDashesOptionsAreNames) {
 TEST_F(Usage, ValuesInOneWordOrTwo) {
     EXPECT_EQ(Run("--language=German catalogue"), Run("--language German catalogue"));
     Run("--language german catalogue"); // the case of the name does not matter
-    ExpectWrong("convert a -o b --length=furlong", "unknown unit furlong", "convert");
+    ExpectWrong({"convert a -o b --length=furlong", "unknown unit furlong", "convert"});
 }
 
 TEST_F(Usage, HelpOfTheProgram) {

@@ -8,23 +8,66 @@
 
 namespace {
 
-CString FileName(const CString& path) {
-    CString out;
-    CPathParts(path).GetFileName(out);
-    return out;
-}
+// What CPathParts tells of a path.
+struct Parts {
+    const char* path;
+    const char* drive;
+    const char* folder;
+    const char* name;
+    const char* extension;
+    const char* noSlash; // drive and folder without the last separator
+};
 
-CString FolderPath(const CString& path) {
-    CString out;
-    CPathParts(path).GetFolderPath(out);
-    return out;
-}
+constexpr Parts SplitPaths[] = {
+    {"C:\\standards\\v2.1\\metric.drawings.kvstd", "C:", "\\standards\\v2.1\\", "metric.drawings", ".kvstd",
+     "C:\\standards\\v2.1"},
+    {"C:\\a\\b.c", "C:", "\\a\\", "b", ".c", "C:\\a"},
+    // by the same rules with slashes
+    {"/home/user/v2.1/metric", "", "/home/user/v2.1/", "metric", "", "/home/user/v2.1"},
+    {"C:/a/b.c", "C:", "/a/", "b", ".c", "C:/a"},
+    {"/a/b.c", "", "/a/", "b", ".c", "/a"},
+    // any part may be missing
+    {"", "", "", "", "", ""},
+    {"name", "", "", "name", "", ""},
+    {"C:name.x", "C:", "", "name", ".x", "C:"},
+    {"C:\\a\\", "C:", "\\a\\", "", "", "C:\\a"},
+    {"/a/.hidden", "", "/a/", "", ".hidden", "/a"},
+    {"a.", "", "", "a", ".", ""},
+    {":", "", "", ":", "", ""},
+    // the root of a drive, and any folder of two characters, keeps its separator
+    {"C:\\", "C:", "\\", "", "", "C:\\"},
+    {"C:\\a.b", "C:", "\\", "a", ".b", "C:\\"},
+    {"C:/a.b", "C:", "/", "a", ".b", "C:/"},
+    {"/a", "", "/", "a", "", "/"},
+    {"a/b", "", "a/", "b", "", "a/"},
+};
 
-CString FolderNoSlash(const CString& path) {
-    CString out;
-    CPathParts(path).GetFolderNoSlash(out);
-    return out;
-}
+struct ShownPath {
+    const char* path;
+    const char* shown;
+};
+
+constexpr ShownPath ShownPaths[] = {
+    // a long path shows its ends
+    {"C:\\a\\b\\c\\d\\e\\file.ext", "file.ext (C:\\a\\...\\e)"},
+    {"C:\\a\\b\\c\\d\\file.ext", "file.ext (C:\\a\\...\\d)"},
+    // three levels are not shortened
+    {"C:\\a\\b\\c\\file.ext", "file.ext (C:\\a\\b\\c)"},
+    {"C:\\a\\b\\file.ext", "file.ext (C:\\a\\b)"},
+    {"C:\\file.ext", "file.ext (C:)"},
+    // a bare name stays
+    {"file.ext", "file.ext"},
+    {"", ""},
+    // the same form with slashes
+    {"/home/user/a/b/file.ext", "file.ext (/home/.../b)"},
+    {"/home/user/a/file.ext", "file.ext (/home/user/a)"},
+    {"/file.ext", "file.ext ()"},
+    // unusual paths keep their name
+    {"\\\\server\\share\\x\\file.ext", "file.ext (\\\\...\\x)"},
+    {"C:\\a\\b\\", " (C:\\a\\b)"},
+    {"\\:name", "name (\\:)"},
+    {"C:\\a/b\\c\\d\\e/f\\file", "file (C:\\a/b\\...\\e/f)"},
+};
 
 CString Shortened(CString path) {
     CPathParts parts;
@@ -35,59 +78,31 @@ CString Shortened(CString path) {
 } // namespace
 
 TEST(PathParts, SplitIntoDriveFolderNameAndExtension) {
-    const CPathParts parts("C:\\standards\\v2.1\\metric.drawings.kvstd");
-    EXPECT_EQ(parts.Path, "C:\\standards\\v2.1\\metric.drawings.kvstd");
-    EXPECT_EQ(parts.Drive, "C:");
-    EXPECT_EQ(parts.Folder, "\\standards\\v2.1\\");
-    EXPECT_EQ(parts.Name, "metric.drawings");
-    EXPECT_EQ(parts.Extension, ".kvstd");
-    CString extension;
-    parts.GetExtension(extension);
-    EXPECT_EQ(extension, ".kvstd");
+    for (const Parts& expected : SplitPaths) {
+        SCOPED_TRACE(expected.path);
+        const CPathParts parts(expected.path);
+        EXPECT_EQ(parts.Path, expected.path);
+        EXPECT_EQ(parts.Drive, expected.drive);
+        EXPECT_EQ(parts.Folder, expected.folder);
+        EXPECT_EQ(parts.Name, expected.name);
+        EXPECT_EQ(parts.Extension, expected.extension);
+    }
 }
 
-TEST(PathParts, SlashPathsSplitByTheSameRules) {
-    const CPathParts parts("/home/user/v2.1/metric");
-    EXPECT_EQ(parts.Drive, "");
-    EXPECT_EQ(parts.Folder, "/home/user/v2.1/");
-    EXPECT_EQ(parts.Name, "metric");
-    EXPECT_EQ(parts.Extension, "");
-    EXPECT_EQ(CPathParts("C:/a/b.c").Drive, "C:");
-    EXPECT_EQ(CPathParts("C:/a/b.c").Folder, "/a/");
-}
-
-TEST(PathParts, EmptyPathLeavesAllPartsEmpty) {
-    const CPathParts parts("");
-    EXPECT_EQ(parts.Path + parts.Drive + parts.Folder + parts.Name + parts.Extension, "");
-    EXPECT_EQ(FolderNoSlash(""), "");
-}
-
-TEST(PathParts, PartsMayBeMissing) {
-    EXPECT_EQ(FileName("C:name.x"), "name.x");
-    EXPECT_EQ(FolderPath("C:name.x"), "C:");
-    EXPECT_EQ(CPathParts("C:\\a\\").Name, "");
-    EXPECT_EQ(CPathParts("/a/.hidden").Name, "");
-    EXPECT_EQ(CPathParts("/a/.hidden").Extension, ".hidden");
-    EXPECT_EQ(CPathParts("a.").Extension, ".");
-    EXPECT_EQ(CPathParts(":").Name, ":");
-}
-
-TEST(PathParts, FolderIsGivenWithAndWithoutItsLastSeparator) {
-    EXPECT_EQ(FolderPath("C:\\a\\b.c"), "C:\\a\\");
-    EXPECT_EQ(FolderNoSlash("C:\\a\\b.c"), "C:\\a");
-    EXPECT_EQ(FolderNoSlash("/a/b.c"), "/a");
-    EXPECT_EQ(FolderNoSlash("name"), "");
-}
-
-TEST(PathParts, RootOfADriveKeepsItsSeparator) {
-    EXPECT_EQ(FolderNoSlash("C:\\"), "C:\\");
-    EXPECT_EQ(FolderNoSlash("C:\\a.b"), "C:\\");
-    EXPECT_EQ(FolderNoSlash("C:/a.b"), "C:/");
-}
-
-TEST(PathParts, FolderOfTwoCharactersKeepsItsSeparator) {
-    EXPECT_EQ(FolderNoSlash("/a"), "/");
-    EXPECT_EQ(FolderNoSlash("a/b"), "a/");
+TEST(PathParts, JoinedAgain) {
+    for (const Parts& expected : SplitPaths) {
+        SCOPED_TRACE(expected.path);
+        const CPathParts parts(expected.path);
+        CString out;
+        parts.GetExtension(out);
+        EXPECT_EQ(out, expected.extension);
+        parts.GetFileName(out);
+        EXPECT_EQ(out, CString(expected.name) + expected.extension);
+        parts.GetFolderPath(out);
+        EXPECT_EQ(out, CString(expected.drive) + expected.folder);
+        parts.GetFolderNoSlash(out);
+        EXPECT_EQ(out, expected.noSlash);
+    }
 }
 
 TEST(Paths, SlashesTurnIntoBackslashesFromThreeCharactersOn) {
@@ -116,37 +131,17 @@ TEST(Paths, NoPathHasALongerForm) {
     EXPECT_EQ(path, "C:\\PROGRA~1");
 }
 
-TEST(ShortenPath, LongPathShowsItsEnds) {
-    EXPECT_EQ(Shortened("C:\\a\\b\\c\\d\\e\\file.ext"), "file.ext (C:\\a\\...\\e)");
-    EXPECT_EQ(Shortened("C:\\a\\b\\c\\d\\file.ext"), "file.ext (C:\\a\\...\\d)");
+TEST(ShortenPath, ShowsTheNameAndTheEndsOfItsFolder) {
+    for (const ShownPath& expected : ShownPaths)
+        EXPECT_EQ(Shortened(expected.path), expected.shown) << expected.path;
 }
 
-TEST(ShortenPath, ThreeLevelsAreNotShortened) {
-    EXPECT_EQ(Shortened("C:\\a\\b\\c\\file.ext"), "file.ext (C:\\a\\b\\c)");
-    EXPECT_EQ(Shortened("C:\\a\\b\\file.ext"), "file.ext (C:\\a\\b)");
-    EXPECT_EQ(Shortened("C:\\file.ext"), "file.ext (C:)");
-}
-
-TEST(ShortenPath, BareNameStays) {
+TEST(ShortenPath, BareNameLeavesThePartsAsTheyWere) {
     CPathParts parts("kept");
     CString path = "file.ext";
     ShortenPathForDisplay(parts, path);
     EXPECT_EQ(path, "file.ext");
     EXPECT_EQ(parts.Path, "kept");
-    EXPECT_EQ(Shortened(""), "");
-}
-
-TEST(ShortenPath, SlashPathsTakeTheSameForm) {
-    EXPECT_EQ(Shortened("/home/user/a/b/file.ext"), "file.ext (/home/.../b)");
-    EXPECT_EQ(Shortened("/home/user/a/file.ext"), "file.ext (/home/user/a)");
-    EXPECT_EQ(Shortened("/file.ext"), "file.ext ()");
-}
-
-TEST(ShortenPath, UnusualPathsKeepTheirName) {
-    EXPECT_EQ(Shortened("\\\\server\\share\\x\\file.ext"), "file.ext (\\\\...\\x)");
-    EXPECT_EQ(Shortened("C:\\a\\b\\"), " (C:\\a\\b)");
-    EXPECT_EQ(Shortened("\\:name"), "name (\\:)");
-    EXPECT_EQ(Shortened("C:\\a/b\\c\\d\\e/f\\file"), "file (C:\\a/b\\...\\e/f)");
 }
 
 TEST(ShortenPath, SplitPathIsHandedOut) {

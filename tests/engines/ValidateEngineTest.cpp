@@ -2,6 +2,7 @@
 #include "engines/ValueBox.h"
 
 #include <gtest/gtest.h>
+#include <string>
 
 namespace {
 
@@ -16,223 +17,108 @@ int BadPosition(const CString& comparison, CString text) {
     return position;
 }
 
+// What a box holds after keys were typed in, one by one, or a text was pasted.
+enum class How { Typed, Pasted };
+
+struct Entry {
+    const char* behaviour;
+    const char* comparison; // a sign, or the name of a list below
+    How how;
+    const char* input;
+    const char* text;
+    bool stands;      // what the last check said
+    unsigned message; // 0: none
+};
+
+CString ComparisonOf(const CString& name) {
+    if (name == "between")
+        return Between();
+    if (name == "one of")
+        return OneOf();
+    return name == "none of" ? NoneOf() : name;
+}
+
+constexpr How Typed = How::Typed;
+constexpr How Pasted = How::Pasted;
+
+constexpr Entry Entries[] = {
+    {"SecondPointIsRefused", "<", Typed, "1.2.", "1.2", false, 1978},
+    {"TypingGoesOnAfterARefusedPoint", "<", Typed, "1.2.3", "1.23", true, 1978},
+    {"CommaIsNotAllowedUnderLess", "<", Typed, "1,2", "12", true, 1977},
+    {"CommaIsNotAllowedUnderGreater", ">", Typed, "1,2", "12", true, 1977},
+    {"CommaIsNotAllowedUnderAtMost", "<=", Typed, "1,2", "12", true, 1977},
+    {"CommaIsNotAllowedUnderAtLeast", ">=", Typed, "1,2", "12", true, 1977},
+    {"CommaIsNotAllowedUnderEqual", "=", Typed, "1,2", "12", true, 1977},
+    {"CommaIsNotAllowedUnderUnequal", "!=", Typed, "1,2", "12", true, 1977},
+    {"LonePointUnderLessIsKept", "<", Typed, ".", ".", true, 0},
+    {"LonePointUnderLessMayGrow", "<", Typed, ".5", ".5", true, 0},
+    {"ZeroUnderLessBecomesOne", "<", Typed, "0", "1", true, 0},
+    {"ZeroUnderAtMostStays", "<=", Typed, "0", "0", true, 0},
+    {"NothingReadableUnderLessBecomesOneEvenAfterARefusal", "<", Pasted, "ab", "1", false, 1977},
+    {"EmptiedBoxUnderLessStaysEmpty", "<", Pasted, "", "", true, 0},
+    {"EmptiedBoxUnderEqualStaysEmpty", "=", Pasted, "", "", true, 0},
+
+    {"MinusSignIsNotAllowedInARange", "between", Typed, "-", "", false, 1977},
+    {"MinusSignIsNotAllowedInAList", "one of", Typed, "-", "", false, 1977},
+    {"MinusSignIsNotAllowedInAListOfExceptions", "none of", Typed, "-", "", false, 1977},
+    {"MinusSignIsNotAllowedUnderUnequal", "!=", Typed, "-", "", false, 1977},
+    {"MinusSignIsNotAllowedUnderLess", "<", Typed, "-", "", false, 1977},
+    {"DigitAfterAMinusSignStandsAlone", "between", Typed, "-5", "5", true, 1977},
+    {"OnlyTheTenDigitsAreDigits", "one of", Pasted, "1\u0662", "1", false, 1977},
+    {"OneChangeRepairsOneCharacter", "=", Pasted, "1a2b", "12b", false, 1977},
+    {"CharacterOfTwoUnitsIsCutWhole", "=", Pasted, "1\U0001F6002", "12", false, 1977},
+
+    {"SecondCommaInARangeIsRefused", "between", Typed, "1,2,", "1,2", false, 1979},
+    {"TypingGoesOnAfterARefusedComma", "between", Typed, "1,2,3", "1,23", true, 1979},
+    {"EachValueOfARangeTakesOnePoint", "between", Typed, "1.5,2.5", "1.5,2.5", true, 0},
+    {"SecondPointInAValueOfARangeIsRefused", "between", Typed, "1.5,2.5.", "1.5,2.5", false, 1974},
+    {"TwoCommasInARowCountAsASecondCommaOfARange", "between", Typed, "1,,", "1,", false, 1979},
+    {"CommaAtTheStartOfARangeIsRefused", "between", Typed, ",", "", false, 1976},
+
+    {"ListTakesAnyNumberOfValues", "one of", Typed, ".5,2.5,0,100", ".5,2.5,0,100", true, 0},
+    {"ListOfExceptionsTakesAnyNumberOfValues", "none of", Typed, ".5,2.5,0,100", ".5,2.5,0,100", true, 0},
+    {"SecondPointInAValueOfAListIsRefused", "one of", Typed, "1.5,2.5.", "1.5,2.5", false, 1974},
+    {"TwoCommasInARowInAListAreRefused", "one of", Typed, "1,,2", "1,2", true, 1975},
+    {"CommaAtTheStartOfAListIsRefused", "one of", Typed, ",", "", false, 1976},
+    {"CommaAfterAPointPasses", "one of", Typed, "1.,", "1.,", true, 0},
+    {"SecondCommaAfterAPointIsCaught", "one of", Typed, "1.,,", "1.,", false, 1975},
+    {"ValueThatIsNoNumberStandsAlone", "one of", Typed, ".,", ".,", true, 0},
+    {"ValueThatIsNoNumberIsDroppedOnceAnotherIs", "one of", Typed, ".,5", "5", true, 0},
+    {"PointInFrontOfAFurtherValueIsDroppedWithItsComma", "one of", Typed, "1,.", "1", true, 0},
+
+    {"BadCharacterBehindBlanksIsCutItself", "between", Pasted, "10 , 20a", "10 , 20", false, 1977},
+    {"BadCharacterBetweenBlanksIsCutItself", "=", Pasted, "\t  1 x2 ", "\t  1 2 ", false, 1977},
+    {"BlanksAroundValuesStay", "between", Pasted, "10 , 20", "10 , 20", true, 0},
+    {"BlankAfterACommaTakesTheCommaAway", "one of", Typed, "1, ", "1", true, 0},
+    {"BoxOfBlanksStands", "one of", Pasted, "  ", "  ", true, 0},
+};
+
+class Typing : public ::testing::TestWithParam<Entry> {};
+
 } // namespace
 
-TEST(TypeSingle, SecondPointIsRefused) {
-    ValueBox box("<");
-    box.Type("1.2.");
-    EXPECT_EQ(box.messages.texts, Texts({1978}));
-    EXPECT_FALSE(box.stands);
-    box.Type("3");
-    EXPECT_EQ(box.text, "1.23");
-    EXPECT_TRUE(box.stands);
-    EXPECT_EQ(box.messages.texts, Texts({1978}));
+TEST_P(Typing, IsCheckedAndRepaired) {
+    const Entry& entry = GetParam();
+    ValueBox box(ComparisonOf(entry.comparison));
+    const CString input = QString::fromUtf8(entry.input);
+    entry.how == How::Typed ? box.Type(input) : box.Paste(input);
+    EXPECT_EQ(box.text, entry.text);
+    EXPECT_EQ(box.stands, entry.stands);
+    EXPECT_EQ(box.messages.texts, entry.message ? Texts({entry.message}) : CStringArray());
 }
 
-TEST(TypeSingle, CommaIsNotAllowed) {
-    for (const char* single : {"<", ">", "<=", ">=", "=", "!="}) {
-        ValueBox box(single);
-        box.Type("1,2");
-        EXPECT_EQ(box.text, "12") << single;
-        EXPECT_EQ(box.messages.texts, Texts({1977})) << single;
-    }
-}
+INSTANTIATE_TEST_SUITE_P(Entries, Typing, ::testing::ValuesIn(Entries),
+                         [](const auto& entry) { return std::string(entry.param.behaviour); });
 
-TEST(TypeSingle, LonePointUnderLessThanIsKept) {
-    ValueBox box("<");
-    box.Type(".");
-    EXPECT_EQ(box.text, ".");
-    EXPECT_TRUE(box.stands);
-    box.Type("5");
-    EXPECT_EQ(box.text, ".5");
-    EXPECT_TRUE(box.messages.texts.isEmpty());
-}
-
-TEST(TypeSingle, ZeroUnderLessThanBecomesOne) {
-    ValueBox box("<");
-    box.Type("0");
-    EXPECT_EQ(box.text, "1");
-    EXPECT_TRUE(box.stands);
-    ValueBox other("<=");
-    other.Type("0");
-    EXPECT_EQ(other.text, "0");
-}
-
-TEST(TypeSingle, NothingReadableUnderLessThanBecomesOneEvenAfterARefusal) {
-    ValueBox box("<");
-    box.Paste("ab");
-    EXPECT_EQ(box.text, "1");
-    EXPECT_FALSE(box.stands);
-    EXPECT_EQ(box.messages.texts, Texts({1977}));
-}
-
-TEST(TypeSingle, EmptiedBoxStaysEmpty) {
-    for (const char* single : {"<", "="}) {
-        ValueBox box(single);
-        box.Paste("");
-        EXPECT_EQ(box.text, "") << single;
-        EXPECT_TRUE(box.stands) << single;
-    }
-}
-
-TEST(TypeEveryForm, MinusSignIsNeverAllowed) {
-    for (const CString& comparison : {Between(), OneOf(), NoneOf(), CString("<"), CString("!=")}) {
-        ValueBox box(comparison);
-        box.Type("-");
-        EXPECT_EQ(box.messages.texts, Texts({1977})) << comparison.toStdString();
-        EXPECT_FALSE(box.stands);
-        EXPECT_EQ(box.text, "");
-        box.Type("5");
-        EXPECT_EQ(box.text, "5");
-        EXPECT_TRUE(box.stands);
-    }
-}
-
-TEST(TypeEveryForm, OnlyTheTenDigitsAreDigits) {
-    ValueBox box(OneOf());
-    box.Paste(QString::fromUtf8("1\u0662"));
-    EXPECT_EQ(box.text, "1");
-    EXPECT_EQ(box.messages.texts, Texts({1977}));
-}
-
-TEST(TypeEveryForm, OneChangeRepairsOneCharacter) {
+TEST(TypingInSteps, EachChangeRepairsOneMoreCharacter) {
     ValueBox box("=");
-    box.Paste("1a2b");
-    EXPECT_EQ(box.text, "12b");
-    EXPECT_EQ(box.messages.texts, Texts({1977}));
-    box.Paste("");
+    box.Paste("1a2b").Paste("");
     EXPECT_EQ(box.text, "12");
     EXPECT_FALSE(box.stands);
     EXPECT_EQ(box.messages.texts, Texts({1977, 1977}));
 }
 
-TEST(TypeEveryForm, CharacterOfTwoUnitsIsCutWhole) {
-    ValueBox box("=");
-    box.Paste(QString::fromUtf8("1\U0001F600"
-                                "2"));
-    EXPECT_EQ(box.text, "12");
-}
-
-TEST(TypeRange, SecondCommaIsRefused) {
-    ValueBox box(Between());
-    box.Type("1,2,");
-    EXPECT_EQ(box.messages.texts, Texts({1979}));
-    EXPECT_FALSE(box.stands);
-    box.Type("3");
-    EXPECT_EQ(box.text, "1,23");
-    EXPECT_TRUE(box.stands);
-    EXPECT_EQ(box.messages.texts, Texts({1979}));
-}
-
-TEST(TypeRange, EachValueTakesOnePoint) {
-    ValueBox box(Between());
-    box.Type("1.5,2.5");
-    EXPECT_EQ(box.text, "1.5,2.5");
-    EXPECT_TRUE(box.messages.texts.isEmpty());
-    box.Type(".");
-    EXPECT_EQ(box.text, "1.5,2.5");
-    EXPECT_EQ(box.messages.texts, Texts({1974}));
-}
-
-TEST(TypeRange, TwoCommasInARowCountAsASecondComma) {
-    ValueBox box(Between());
-    box.Type("1,,");
-    EXPECT_EQ(box.text, "1,");
-    EXPECT_EQ(box.messages.texts, Texts({1979}));
-}
-
-TEST(TypeList, TakesAnyNumberOfValues) {
-    for (const CString& comparison : {OneOf(), NoneOf()}) {
-        ValueBox box(comparison);
-        box.Type(".5,2.5,0,100");
-        EXPECT_EQ(box.text, ".5,2.5,0,100");
-        EXPECT_TRUE(box.stands);
-        EXPECT_TRUE(box.messages.texts.isEmpty());
-    }
-}
-
-TEST(TypeList, SecondPointInAValueIsRefused) {
-    ValueBox box(OneOf());
-    box.Type("1.5,2.5.");
-    EXPECT_EQ(box.text, "1.5,2.5");
-    EXPECT_EQ(box.messages.texts, Texts({1974}));
-}
-
-TEST(TypeList, TwoCommasInARowAreRefused) {
-    ValueBox box(OneOf());
-    box.Type("1,,2");
-    EXPECT_EQ(box.text, "1,2");
-    EXPECT_EQ(box.messages.texts, Texts({1975}));
-}
-
-TEST(TypeList, CommaAtTheStartIsRefused) {
-    for (const CString& comparison : {OneOf(), Between()}) {
-        ValueBox box(comparison);
-        box.Type(",");
-        EXPECT_EQ(box.text, "");
-        EXPECT_EQ(box.messages.texts, Texts({1976}));
-    }
-}
-
-TEST(TypeList, CommaAfterAPointPassesAndOnlyAFurtherOneIsCaught) {
-    ValueBox box(OneOf());
-    box.Type("1.,");
-    EXPECT_EQ(box.text, "1.,");
-    EXPECT_TRUE(box.messages.texts.isEmpty());
-    box.Type(",");
-    EXPECT_EQ(box.text, "1.,");
-    EXPECT_EQ(box.messages.texts, Texts({1975}));
-}
-
-TEST(TypeList, ValueThatIsNoNumberIsDroppedOnceAnotherIs) {
-    ValueBox box(OneOf());
-    box.Type(".,");
-    EXPECT_EQ(box.text, ".,");
-    EXPECT_TRUE(box.stands);
-    box.Type("5");
-    EXPECT_EQ(box.text, "5");
-}
-
-TEST(TypeList, PointInFrontOfAFurtherValueIsDroppedWithItsComma) {
-    ValueBox box(OneOf());
-    box.Type("1,.");
-    EXPECT_EQ(box.text, "1");
-    EXPECT_TRUE(box.stands);
-    EXPECT_TRUE(box.messages.texts.isEmpty());
-}
-
-TEST(TypeWithBlanks, BadCharacterItselfIsCut) {
-    ValueBox box(Between());
-    box.Paste("10 , 20a");
-    EXPECT_EQ(box.text, "10 , 20");
-    EXPECT_EQ(box.messages.texts, Texts({1977}));
-    ValueBox padded("=");
-    padded.Paste("\t  1 x2 ");
-    EXPECT_EQ(padded.text, "\t  1 2 ");
-}
-
-TEST(TypeWithBlanks, BlanksAroundValuesStay) {
-    ValueBox box(Between());
-    box.Paste("10 , 20");
-    EXPECT_EQ(box.text, "10 , 20");
-    EXPECT_TRUE(box.stands);
-}
-
-TEST(TypeWithBlanks, BlankAfterACommaTakesTheCommaAway) {
-    ValueBox box(OneOf());
-    box.Type("1, ");
-    EXPECT_EQ(box.text, "1");
-    EXPECT_TRUE(box.stands);
-}
-
-TEST(TypeWithBlanks, BoxOfBlanksStands) {
-    ValueBox box(OneOf());
-    box.Paste("  ");
-    EXPECT_EQ(box.text, "  ");
-    EXPECT_TRUE(box.stands);
-}
-
-TEST(TypeWithoutOperator, IsRefusedAndTheTextStays) {
+TEST(TypingWithoutOperator, IsRefusedAndTheTextStays) {
     for (const CString& comparison : {LoadString(1632), CString("=="), CString()}) {
         ValueBox box(comparison);
         box.Paste("x1");
