@@ -5,8 +5,10 @@
 #include <QAbstractItemView>
 #include <QHeaderView>
 #include <QImage>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPalette>
+#include <QStatusBar>
 
 RulewardStyle::RulewardStyle() : QProxyStyle("Fusion") {}
 
@@ -50,6 +52,10 @@ void RulewardStyle::polish(QWidget* widget) {
         widget->setAttribute(Qt::WA_Hover);
     if (auto* view = qobject_cast<QAbstractItemView*>(widget))
         view->viewport()->setAttribute(Qt::WA_Hover);
+    // The lines between the fields of a status bar stand right beside them.
+    if (auto* label = qobject_cast<QLabel*>(widget);
+        label && qobject_cast<QStatusBar*>(label->parentWidget()))
+        label->setContentsMargins(10, 0, 10, 0);
 }
 
 void RulewardStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
@@ -89,6 +95,9 @@ QRect RulewardStyle::subControlRect(ComplexControl control, const QStyleOptionCo
     if (control == CC_ScrollBar)
         if (const auto* bar = qstyleoption_cast<const QStyleOptionSlider*>(option))
             return StyleBars::PlaceInScrollBar(*bar, sub);
+    if (control == CC_GroupBox)
+        if (const auto* group = qstyleoption_cast<const QStyleOptionGroupBox*>(option))
+            return StyleViews::PlaceInGroupBox(*proxy(), *group, sub);
     QRect rect;
     if (StyleFields::PlaceSubControl(control, *option, sub, rect))
         return rect;

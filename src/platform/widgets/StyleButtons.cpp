@@ -75,6 +75,32 @@ void DrawToolButton(const StylePart& part) {
         StylePaint::DrawFocus(part.painter, rect, 4);
 }
 
+// A picture with its text to the right of it, both from the left edge on: such buttons stand in columns.
+bool DrawToolButtonLabel(const StylePart& part) {
+    const auto* button = part.As<QStyleOptionToolButton>();
+    if (!button || button->toolButtonStyle != Qt::ToolButtonTextBesideIcon || button->icon.isNull() ||
+        button->text.isEmpty())
+        return false;
+    const QRect rect = button->rect;
+    const int left = rect.left() + 9;
+    const QSize size = button->iconSize;
+    const auto visual = [&](const QRect& place) {
+        return QStyle::visualRect(button->direction, rect, place);
+    };
+    const QRect picture(QPoint(left, rect.center().y() + 1 - size.height() / 2), size);
+    button->icon.paint(&part.painter, visual(picture), Qt::AlignCenter,
+                       part.IsEnabled() ? QIcon::Normal : QIcon::Disabled,
+                       part.Is(QStyle::State_On) ? QIcon::On : QIcon::Off);
+    const QRect text = visual(rect.adjusted(9 + size.width() + 8, 0, -6, 0));
+    part.painter.setFont(button->font);
+    part.painter.setPen(QColor(part.IsEnabled() ? Look::Text : StyleTone::DisabledText));
+    const int side = int(QStyle::visualAlignment(button->direction, Qt::AlignLeft));
+    part.painter.drawText(
+        text, side | Qt::AlignVCenter | Qt::TextShowMnemonic | Qt::TextSingleLine,
+        button->fontMetrics.elidedText(button->text, Qt::ElideRight, text.width(), Qt::TextShowMnemonic));
+    return true;
+}
+
 struct MarkTones {
     QColor fill;
     QColor border;
@@ -142,6 +168,8 @@ bool DrawPrimitive(QStyle::PrimitiveElement element, const StylePart& part) {
 bool DrawControl(QStyle::ControlElement element, const StylePart& part) {
     if (element == QStyle::CE_PushButtonLabel)
         return DrawPushButtonLabel(part);
+    if (element == QStyle::CE_ToolButtonLabel)
+        return DrawToolButtonLabel(part);
     if (element == QStyle::CE_PushButton && part.As<QStyleOptionButton>()) {
         part.style.drawControl(QStyle::CE_PushButtonBevel, &part.option, &part.painter, part.widget);
         part.style.drawControl(QStyle::CE_PushButtonLabel, &part.option, &part.painter, part.widget);

@@ -56,7 +56,21 @@ QSize RulewardStyle::sizeFromContents(ContentsType type, const QStyleOption* opt
         return {qMax(contents.width() + 24, ButtonWidth), qMax(contents.height() + 10, ButtonHeight)};
     case CT_CheckBox:
     case CT_RadioButton: return {size.width() + 3, qMax(size.height(), 20)};
-    case CT_ToolButton: return {qMax(contents.width() + 10, 26), qMax(contents.height() + 10, 26)};
+    case CT_ToolButton:
+        if (const auto* button = qstyleoption_cast<const QStyleOptionToolButton*>(option)) {
+            const bool isBeside = button->toolButtonStyle == Qt::ToolButtonTextBesideIcon;
+            return {qMax(contents.width() + (isBeside ? 24 : 10), 26), qMax(contents.height() + 10, 26)};
+        }
+        return size;
+    case CT_GroupBox:
+        if (const auto* group = qstyleoption_cast<const QStyleOptionGroupBox*>(option)) {
+            const QRect box(0, 0, 100, 100);
+            QStyleOptionGroupBox measured(*group);
+            measured.rect = box;
+            const QRect inside = proxy()->subControlRect(CC_GroupBox, &measured, SC_GroupBoxContents, widget);
+            return contents + box.size() - inside.size();
+        }
+        return size;
     case CT_MenuBarItem: return {contents.width() + 20, qMax(contents.height() + 10, 26)};
     case CT_MenuItem:
         if (const auto* item = qstyleoption_cast<const QStyleOptionMenuItem*>(option))
@@ -135,6 +149,7 @@ int RulewardStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, c
     case PM_TabBarBaseOverlap: return 1;
     case PM_HeaderMargin: return 6;
     case PM_HeaderMarkSize: return 10;
+    case PM_HeaderDefaultSectionSizeVertical: return Look::RowHeight;
     case PM_FocusFrameHMargin: return 4;
     case PM_LayoutLeftMargin:
     case PM_LayoutTopMargin:

@@ -98,4 +98,5 @@ namespace StyleViews {
 bool DrawPrimitive(QStyle::PrimitiveElement element, const StylePart& part);
 bool DrawControl(QStyle::ControlElement element, const StylePart& part);
 bool DrawGroupBox(const StylePart& part);
+QRect PlaceInGroupBox(const QStyle& style, const QStyleOptionGroupBox& group, QStyle::SubControl sub);
 } // namespace StyleViews

@@ -11,10 +11,14 @@ namespace {
 void DrawFrame(const StylePart& part) {
     const bool isArea = qobject_cast<const QAbstractScrollArea*>(part.widget);
     // A popup has no room outside of its corners.
-    const qreal radius = part.widget && part.widget->isWindow() ? 0 : StylePaint::Radius;
+    const bool isPopup = part.widget && part.widget->isWindow();
+    const qreal radius = isPopup ? 0 : StylePaint::Radius;
     const QColor line(part.IsEnabled() ? Look::Line : StyleTone::DisabledLine);
-    const QBrush ground = isArea ? part.option.palette.brush(QPalette::Base) : QBrush(Qt::NoBrush);
-    StylePaint::DrawBox(part.painter, part.option.rect, ground, line, radius);
+    // The space between the frame and what scrolls in it; the scroll bars and their corner are drawn already.
+    if (isArea)
+        StylePaint::DrawBox(part.painter, QRectF(part.option.rect).adjusted(1, 1, -1, -1), Qt::NoBrush,
+                            part.option.palette.color(QPalette::Base), radius - 1);
+    StylePaint::DrawBox(part.painter, part.option.rect, Qt::NoBrush, line, radius);
     if (isArea && part.HasFocus())
         StylePaint::DrawFocus(part.painter, part.option.rect, radius);
 }
@@ -160,6 +164,30 @@ bool DrawControl(QStyle::ControlElement element, const StylePart& part) {
     }
 }
 
+// The heading stands above the frame.
+QRect PlaceInGroupBox(const QStyle& style, const QStyleOptionGroupBox& group, QStyle::SubControl sub) {
+    const bool hasBox = group.subControls & QStyle::SC_GroupBoxCheckBox;
+    const int mark = hasBox ? style.pixelMetric(QStyle::PM_IndicatorWidth) : 0;
+    const bool hasHeading = hasBox || !group.text.isEmpty();
+    const int height = hasHeading ? qMax(group.fontMetrics.height(), mark) + 4 : 0;
+    const QRect frame = group.rect.adjusted(0, height, 0, 0);
+    QRect rect = group.rect;
+    switch (sub) {
+    case QStyle::SC_GroupBoxFrame: rect = frame; break;
+    case QStyle::SC_GroupBoxContents: rect = frame.adjusted(1, 1, -1, -1); break;
+    case QStyle::SC_GroupBoxCheckBox:
+        rect = QRect(group.rect.left() + 1, group.rect.top() + (height - 2 - mark) / 2, mark, mark);
+        break;
+    case QStyle::SC_GroupBoxLabel: {
+        const int left = group.rect.left() + (hasBox ? mark + 8 : 3);
+        rect = QRect(left, group.rect.top(), group.rect.right() - left + 1, height - 2);
+        break;
+    }
+    default: break;
+    }
+    return QStyle::visualRect(group.direction, group.rect, rect);
+}
+
 bool DrawGroupBox(const StylePart& part) {
     const auto* group = part.As<QStyleOptionGroupBox>();
     if (!group)
@@ -187,8 +215,12 @@ bool DrawGroupBox(const StylePart& part) {
         box.rect = place(QStyle::SC_GroupBoxCheckBox);
         part.style.drawPrimitive(QStyle::PE_IndicatorCheckBox, &box, &part.painter, part.widget);
     }
-    if (part.HasFocus())
-        StylePaint::DrawFocus(part.painter, label.adjusted(-3, -1, 3, 1));
+    if (part.HasFocus()) {
+        const QFontMetrics bold(StylePaint::Bold(part.painter.font()));
+        QRect text = label;
+        text.setWidth(bold.size(Qt::TextShowMnemonic, group->text).width());
+        StylePaint::DrawFocus(part.painter, text.adjusted(-3, 0, 3, 1));
+    }
     return true;
 }
 
