@@ -1,0 +1,47 @@
+#include "editing/ComboBoxExt.h"
+
+#include "editing/Pictures.h"
+
+#include <QAbstractItemView>
+#include <QScreen>
+#include <QScrollBar>
+#include <QWheelEvent>
+
+CComboBoxExt::CComboBoxExt(QWidget* parent) : QComboBox(parent) {
+    setFocusPolicy(Qt::StrongFocus);
+    setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    setMinimumContentsLength(6);
+    connect(this, &QComboBox::currentIndexChanged, this, &CComboBoxExt::ShowTooltip);
+}
+
+void CComboBoxExt::AddRow(const CString& text, unsigned bitmap) {
+    addItem(bitmap ? PictureOf(ImageType::Bitmap, bitmap) : QIcon(), text);
+    setItemData(count() - 1, text, Qt::ToolTipRole);
+    if (bitmap)
+        setIconSize(iconSize().expandedTo(PictureSize(ImageType::Bitmap, bitmap)));
+}
+
+// The row may be cut in a narrow column; its text is told in full.
+void CComboBoxExt::ShowTooltip() {
+    setToolTip(currentText());
+}
+
+int CComboBoxExt::PopupWidth() const {
+    int widest = view()->sizeHintForColumn(modelColumn());
+    if (count() > maxVisibleItems())
+        widest += view()->verticalScrollBar()->sizeHint().width();
+    constexpr int Margins = 12;
+    return qMin(widest + Margins, qRound(screen()->availableSize().width() * WidestPopup));
+}
+
+void CComboBoxExt::showPopup() {
+    view()->setMinimumWidth(qMax(width(), PopupWidth()));
+    QComboBox::showPopup();
+}
+
+void CComboBoxExt::wheelEvent(QWheelEvent* event) {
+    if (hasFocus())
+        QComboBox::wheelEvent(event);
+    else
+        event->ignore();
+}
