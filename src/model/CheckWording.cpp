@@ -26,36 +26,37 @@ public:
 
     std::vector<CheckRow> rows;
 
-    void Add(const CParameterEntry& entry, unsigned criticality, int child) {
+    void AddParameterRow(const CParameterEntry& entry, unsigned criticality, int child) {
         ParameterRow row = WordParameter(entry, m_lengthUnit, m_angleUnit);
         if (row.form != ParameterRow::None)
             rows.push_back({std::move(row), criticality, child});
     }
 
     // The parameters without an ID only carry what others mean.
-    void AddAll(const CCheck& check, unsigned criticality, int child) {
+    void AddCheckRows(const CCheck& check, unsigned criticality, int child) {
         for (const CParameterEntry* entry : check.Parameters)
             if (entry->ID != 0)
-                Add(*entry, criticality, child);
+                AddParameterRow(*entry, criticality, child);
     }
 
-    void AddContainer(const CCheck& container) {
+    void AddContainerRows(const CCheck& container) {
         for (int i = 0; i < container.Children.Count; ++i) {
             const CCheck& child = *container.Children[i];
             if (container.Type == FileLocations)
-                AddFileLocation(child, container.Criticality, i);
+                AddFileLocationRow(child, container.Criticality, i);
             else
-                AddAll(child, container.Type == CustomChecks ? child.Criticality : container.Criticality, i);
+                AddCheckRows(child,
+                             container.Type == CustomChecks ? child.Criticality : container.Criticality, i);
         }
         if (container.Type == FileLocations)
-            Add(*container.Parameters[0], container.Criticality, -1);
+            AddParameterRow(*container.Parameters[0], container.Criticality, -1);
         else
-            AddAll(container, container.Criticality, -1);
+            AddCheckRows(container, container.Criticality, -1);
     }
 
 private:
     // One row for a kind of file and its folders.
-    void AddFileLocation(const CCheck& child, unsigned criticality, int index) {
+    void AddFileLocationRow(const CCheck& child, unsigned criticality, int index) {
         const ParameterRow kind = WordParameter(*child.Parameters[0], m_lengthUnit, m_angleUnit);
         const ParameterRow folders = WordParameter(*child.Parameters[1], m_lengthUnit, m_angleUnit);
         ParameterRow row;
@@ -75,18 +76,46 @@ private:
     int m_angleUnit;
 };
 
+constexpr unsigned DraftingChoices = 1578;
+
+// A copy with the texts of its choices.
+std::unique_ptr<CCheck> DisplayCopy(const CCheck& check) {
+    auto copy = CStandard::CloneCheck(check);
+    copy->ConvertChoicesToText();
+    return copy;
+}
+
+void AdaptToPage(CCheck& copy, const CCheck& original) {
+    CParameter<CString*>* texts = copy.GetStringParameter(DraftingChoices);
+    const CParameter<long>* codes = original.GetLongParameter(DraftingChoices);
+    if (!texts || !codes)
+        return;
+    if (texts->Values.Count == 0)
+        texts->Operator = OpNone;
+    texts->CorrectionKind = codes->CorrectionKind;
+}
+
+std::vector<CheckRow> Word(const CCheck& check, int lengthUnit, int angleUnit, bool isForPage) {
+    Wording wording(lengthUnit, angleUnit);
+    if (FindContainerType(check.Type)) {
+        wording.AddContainerRows(check);
+    } else if (check.Type == DraftingStandard) {
+        const auto copy = DisplayCopy(check);
+        if (isForPage)
+            AdaptToPage(*copy, check);
+        wording.AddCheckRows(*copy, check.Criticality, -1);
+    } else if (HasRows(check.Type)) {
+        wording.AddCheckRows(check, check.Criticality, -1);
+    }
+    return std::move(wording.rows);
+}
+
 } // namespace
 
 std::vector<CheckRow> WordCheck(const CCheck& check, int lengthUnit, int angleUnit) {
-    Wording wording(lengthUnit, angleUnit);
-    if (FindContainerType(check.Type)) {
-        wording.AddContainer(check);
-    } else if (check.Type == DraftingStandard) {
-        const auto scratch = CStandard::CloneCheck(check);
-        scratch->ConvertChoicesToText();
-        wording.AddAll(*scratch, check.Criticality, -1);
-    } else if (HasRows(check.Type)) {
-        wording.AddAll(check, check.Criticality, -1);
-    }
-    return std::move(wording.rows);
+    return Word(check, lengthUnit, angleUnit, false);
+}
+
+std::vector<CheckRow> WordCheckOfPage(const CCheck& check, int lengthUnit, int angleUnit) {
+    return Word(check, lengthUnit, angleUnit, true);
 }

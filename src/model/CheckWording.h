@@ -15,3 +15,7 @@ struct CheckRow {
 // None for a check that has nothing in force, or whose type is shown by its summary text alone.
 // Units are those of the standard.
 std::vector<CheckRow> WordCheck(const CCheck& check, int lengthUnit, int angleUnit);
+
+// The same for the summary page. There a choice of drafting standards without values is not in force, and
+// one with values shows the correction that stands beside its codes.
+std::vector<CheckRow> WordCheckOfPage(const CCheck& check, int lengthUnit, int angleUnit);

@@ -1,0 +1,33 @@
+#include "editing/GridHeader.h"
+
+#include "editing/GridClass.h"
+#include "editing/GridColors.h"
+
+#include <QPainter>
+
+GridHeader::GridHeader(const GridModel& cells, CGridClass* grid)
+    : QHeaderView(Qt::Horizontal, grid), m_cells(cells), m_grid(*grid) {
+    setSectionsClickable(false);
+    setHighlightSections(false);
+    setSectionResizeMode(QHeaderView::Fixed);
+    setMinimumSectionSize(0);
+}
+
+// Each section of a covered range draws the whole range, so that a repaint of any of them is right.
+void GridHeader::paintSection(QPainter* painter, const QRect& rect, int logicalIndex) const {
+    const GridRange range = m_cells.CoveredRangeOf(0, logicalIndex);
+    QRect whole = rect;
+    whole.setLeft(sectionViewportPosition(range.left));
+    whole.setRight(sectionViewportPosition(range.right) + sectionSize(range.right) - 1);
+    QLinearGradient band(whole.topLeft(), whole.bottomLeft());
+    band.setColorAt(0, ColorOf(GridHeaderTop));
+    band.setColorAt(1, ColorOf(GridHeaderBottom));
+    painter->fillRect(whole, band);
+    painter->fillRect(QRect(whole.left(), whole.bottom(), whole.width(), 1), ColorOf(GridFrame));
+    if (range.right + 1 < count())
+        painter->fillRect(QRect(whole.right(), whole.top() + 4, 1, whole.height() - 8), ColorOf(GridFrame));
+    CellTextLook look = m_grid.TextLook(m_cells.ComposeStyleRowCol(0, range.left));
+    look.color = ColorOf(GridHeaderText);
+    look.wrap = false;
+    DrawCellText(*painter, whole.adjusted(0, 0, -1, -1), m_cells.Cell(0, range.left).text, look);
+}
