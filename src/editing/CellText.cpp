@@ -54,34 +54,53 @@ bool Fits(const CString& text, const Setting& setting, QSize room) {
     return LayOut(layout, setting, room);
 }
 
-Setting Choose(const CString& text, const CellTextLook& look, QSize room) {
-    Setting setting{look.font};
+// From the best looking to the tightest. A hardly narrower letter is better than a text out of line with
+// the others of its column.
+struct Tightness {
+    int lead;
+    int trail;
+    int percent; // of the usual width of letters
+};
+constexpr Tightness Tightnesses[] = {{Margin, Margin, 100},
+                                     {Margin, LeastMargin, 100},
+                                     {Margin, LeastMargin, 92},
+                                     {LeastMargin, LeastMargin, 100}};
+
+Setting With(const CellTextLook& look, QTextOption::WrapMode wrap, const Tightness& tightness) {
+    Setting setting{look.font, wrap, tightness.lead, tightness.trail};
+    if (tightness.percent != 100)
+        setting.font.setStretch(tightness.percent);
+    return setting;
+}
+
+bool IsOneLine(const CString& text, const Setting& setting, QSize room) {
+    return QFontMetrics(setting.font).horizontalAdvance(text) <= setting.Width(room);
+}
+
+// For a text that has room for one line only, and too little.
+Setting Squeezed(const CString& text, const CellTextLook& look, QSize room) {
     const int width = QFontMetrics(look.font).horizontalAdvance(text);
-    if (width <= room.width() - 2 * LeastMargin) {
-        setting.lead = std::clamp(room.width() - width - LeastMargin, LeastMargin, Margin);
-        setting.trail = std::clamp(room.width() - width - setting.lead, LeastMargin, Margin);
-        return setting;
-    }
-    constexpr std::pair<int, int> Margins[] = {
-        {Margin, Margin}, {Margin, LeastMargin}, {LeastMargin, LeastMargin}};
+    const int percent = 100 * (room.width() - 2 * LeastMargin) / width;
+    if (percent >= TightestPercent)
+        return With(look, QTextOption::NoWrap, {LeastMargin, LeastMargin, percent});
+    const auto wrap = look.wrap ? QTextOption::WrapAtWordBoundaryOrAnywhere : QTextOption::NoWrap;
+    Setting setting = With(look, wrap, {LeastMargin, LeastMargin, 100});
+    setting.isCut = true;
+    return setting;
+}
+
+Setting Choose(const CString& text, const CellTextLook& look, QSize room) {
+    for (const Tightness& tightness : Tightnesses)
+        if (const Setting setting = With(look, QTextOption::NoWrap, tightness);
+            IsOneLine(text, setting, room))
+            return setting;
     if (look.wrap)
         for (const auto wrap :
              {QTextOption::WordWrap, QTextOption::WrapAtWordBoundaryOrAnywhere, QTextOption::WrapAnywhere})
-            for (const auto& [lead, trail] : Margins) {
-                setting.wrap = wrap;
-                setting.lead = lead;
-                setting.trail = trail;
-                if (Fits(text, setting, room))
+            for (const Tightness& tightness : Tightnesses)
+                if (const Setting setting = With(look, wrap, tightness); Fits(text, setting, room))
                     return setting;
-            }
-    const int percent = 100 * (room.width() - 2 * LeastMargin) / width;
-    setting.lead = setting.trail = LeastMargin;
-    setting.isCut = percent < TightestPercent;
-    setting.wrap =
-        setting.isCut && look.wrap ? QTextOption::WrapAtWordBoundaryOrAnywhere : QTextOption::NoWrap;
-    if (!setting.isCut)
-        setting.font.setStretch(percent);
-    return setting;
+    return Squeezed(text, look, room);
 }
 
 // The text of as many lines as there is room for, the last one with an ellipsis.

@@ -2,11 +2,11 @@
 #pragma once
 
 constexpr unsigned GridGround = 0xE3E1DE; // the ground of the pages
-constexpr unsigned GridText = 0x33291F;
+constexpr unsigned GridText = 0x33271F;
 constexpr unsigned GridQuietText = 0x8F7C65; // where nothing is said
 constexpr unsigned GridHeaderTop = 0xDDD3C8;
 constexpr unsigned GridHeaderBottom = 0xC7BDB2;
-constexpr unsigned GridHeaderText = 0x5A3412;
+constexpr unsigned GridHeaderText = 0x7D2800;
 constexpr unsigned GridLine = 0xC7BDB2;      // between rows, and around framed cells
 constexpr unsigned GridQuietLine = 0xD8D4D0; // between rows that belong together
 constexpr unsigned GridFrame = 0x8F7C65;     // around the focus and around colours
