@@ -50,7 +50,11 @@ QSize RulewardStyle::sizeFromContents(ContentsType type, const QStyleOption* opt
             frame && frame->lineWidth > 0)
             size.setHeight(qMax(contents.height() + 6, Look::RowHeight));
         return size;
-    case CT_ComboBox: return {contents.width() + 32, qMax(contents.height() + 8, Look::RowHeight)};
+    case CT_ComboBox:
+        if (const auto* combo = qstyleoption_cast<const QStyleOptionComboBox*>(option))
+            return {contents.width() + (combo->editable ? 44 : 32),
+                    qMax(contents.height() + 8, Look::RowHeight)};
+        return size;
     case CT_SpinBox: return {contents.width() + 24, qMax(contents.height() + 4, Look::RowHeight)};
     case CT_PushButton:
         return {qMax(contents.width() + 24, ButtonWidth), qMax(contents.height() + 10, ButtonHeight)};
