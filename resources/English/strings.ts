@@ -3863,5 +3863,115 @@
         <extracomment>Warning of a merge about a check from a file of another angle unit.</extracomment>
         <translation>Its angles were not converted to the angle unit of the result.</translation>
     </message>
+    <message id="62001">
+        <source>This standard has no checks yet</source>
+        <extracomment>Hint: an empty page of checks.</extracomment>
+        <translation>This standard has no checks yet</translation>
+    </message>
+    <message id="62002">
+        <source>Checks</source>
+        <extracomment>Tab: the page of checks.</extracomment>
+        <translation>Checks</translation>
+    </message>
+    <message id="62003">
+        <source>Summary</source>
+        <extracomment>Tab: the summary of a standard.</extracomment>
+        <translation>Summary</translation>
+    </message>
+    <message id="62004">
+        <source>Options</source>
+        <extracomment>Tab: the options of a standard.</extracomment>
+        <translation>Options</translation>
+    </message>
+    <message id="62005">
+        <source>Choose a check in the bar at the left. It is added here, ready to be filled in. Choosing it once more takes it away again.</source>
+        <extracomment>Hint: how to add the first check.</extracomment>
+        <translation>Choose a check in the bar at the left. It is added here, ready to be filled in. Choosing it once more takes it away again.</translation>
+    </message>
+    <message id="62006">
+        <source>No checks of this group</source>
+        <extracomment>Hint: the standard holds only checks of other groups.</extracomment>
+        <translation>No checks of this group</translation>
+    </message>
+    <message id="62007">
+        <source>Choose one in the bar at the left to add it, or press “Show All Checks” to see those of the other groups.</source>
+        <extracomment>Hint: how to add or find checks; the quoted words are the text of a button.</extracomment>
+        <translation>Choose one in the bar at the left to add it, or press “Show All Checks” to see those of the other groups.</translation>
+    </message>
+    <message id="62008">
+        <source>%1 (%2)</source>
+        <extracomment>Tooltip of a tab: the page and the key that shows it.</extracomment>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message id="62101">
+        <source>The values of this check are shown on the Summary page and stay exactly as they are.</source>
+        <extracomment>Pane of a check: its values cannot be edited in the pane, only its criticality.</extracomment>
+        <translation>The values of this check are shown on the Summary page and stay exactly as they are.</translation>
+    </message>
+    <message id="62102">
+        <source>Correction of %1</source>
+        <extracomment>Pane of a check: name of the field for the value to which a failing item is corrected; %1 is the parameter.</extracomment>
+        <translation>Correction of %1</translation>
+    </message>
+    <message id="62103">
+        <source>Criticalit&amp;y</source>
+        <extracomment>Pane of a check: label of the criticality, with a key.</extracomment>
+        <translation>Criticalit&amp;y</translation>
+    </message>
+    <message id="62104">
+        <source>Correct to</source>
+        <extracomment>Pane of a check: heading of the values to which a failing item is corrected.</extracomment>
+        <translation>Correct to</translation>
+    </message>
+    <message id="62105">
+        <source>Name of the standard</source>
+        <extracomment>Pane of the drafting standard: field for the name of a custom standard.</extracomment>
+        <translation>Name of the standard</translation>
+    </message>
+    <message id="62110">
+        <source>The assembly must not contain hidden components.</source>
+        <extracomment>Pane of a check: what it requires.</extracomment>
+        <translation>The assembly must not contain hidden components.</translation>
+    </message>
+    <message id="1325.1000">
+        <source>Units</source>
+        <extracomment>Heading on the options page.</extracomment>
+        <translation>Units</translation>
+    </message>
+    <message id="1325.1001">
+        <source>Lengths and angles of this standard are entered and shown in these units. Choosing another unit converts every value; new standards start with the units chosen last.</source>
+        <extracomment>Explanation on the options page.</extracomment>
+        <translation>Lengths and angles of this standard are entered and shown in these units. Choosing another unit converts every value; new standards start with the units chosen last.</translation>
+    </message>
+    <message id="1325.1002">
+        <source>&amp;Length unit:</source>
+        <extracomment>Label on the options page.</extracomment>
+        <translation>&amp;Length unit:</translation>
+    </message>
+    <message id="1325.1003">
+        <source>&amp;Angle unit:</source>
+        <extracomment>Label on the options page.</extracomment>
+        <translation>&amp;Angle unit:</translation>
+    </message>
+    <message id="1325.1004">
+        <source>Configurations</source>
+        <extracomment>Heading on the options page.</extracomment>
+        <translation>Configurations</translation>
+    </message>
+    <message id="1325.1005">
+        <source>Which configuration of a document the checker looks at when it runs this standard.</source>
+        <extracomment>Explanation on the options page.</extracomment>
+        <translation>Which configuration of a document the checker looks at when it runs this standard.</translation>
+    </message>
+    <message id="1325.1238">
+        <source>Run with the &amp;default configuration</source>
+        <extracomment>Choice on the options page.</extracomment>
+        <translation>Run with the &amp;default configuration</translation>
+    </message>
+    <message id="1325.1239">
+        <source>Run with the configuration of the d&amp;ocument</source>
+        <extracomment>Choice on the options page.</extracomment>
+        <translation>Run with the configuration of the d&amp;ocument</translation>
+    </message>
 </context>
 </TS>

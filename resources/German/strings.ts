@@ -3863,5 +3863,115 @@
         <extracomment>Warning of a merge about a check from a file of another angle unit.</extracomment>
         <translation>Ihre Winkel wurden nicht in die Winkeleinheit des Ergebnisses umgerechnet.</translation>
     </message>
+    <message id="62001">
+        <source>This standard has no checks yet</source>
+        <extracomment>Hint: an empty page of checks.</extracomment>
+        <translation>Dieser Standard enthält noch keine Prüfungen</translation>
+    </message>
+    <message id="62002">
+        <source>Checks</source>
+        <extracomment>Tab: the page of checks.</extracomment>
+        <translation>Prüfungen</translation>
+    </message>
+    <message id="62003">
+        <source>Summary</source>
+        <extracomment>Tab: the summary of a standard.</extracomment>
+        <translation>Übersicht</translation>
+    </message>
+    <message id="62004">
+        <source>Options</source>
+        <extracomment>Tab: the options of a standard.</extracomment>
+        <translation>Optionen</translation>
+    </message>
+    <message id="62005">
+        <source>Choose a check in the bar at the left. It is added here, ready to be filled in. Choosing it once more takes it away again.</source>
+        <extracomment>Hint: how to add the first check.</extracomment>
+        <translation>Wählen Sie links in der Leiste eine Prüfung. Sie wird hier eingefügt und kann sofort ausgefüllt werden. Ein zweiter Klick entfernt sie wieder.</translation>
+    </message>
+    <message id="62006">
+        <source>No checks of this group</source>
+        <extracomment>Hint: the standard holds only checks of other groups.</extracomment>
+        <translation>Keine Prüfungen dieser Gruppe</translation>
+    </message>
+    <message id="62007">
+        <source>Choose one in the bar at the left to add it, or press “Show All Checks” to see those of the other groups.</source>
+        <extracomment>Hint: how to add or find checks; the quoted words are the text of a button.</extracomment>
+        <translation>Wählen Sie links in der Leiste eine Prüfung, um sie einzufügen, oder drücken Sie „Alle Prüfungen anzeigen“, um die der anderen Gruppen zu sehen.</translation>
+    </message>
+    <message id="62008">
+        <source>%1 (%2)</source>
+        <extracomment>Tooltip of a tab: the page and the key that shows it.</extracomment>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message id="62101">
+        <source>The values of this check are shown on the Summary page and stay exactly as they are.</source>
+        <extracomment>Pane of a check: its values cannot be edited in the pane, only its criticality.</extracomment>
+        <translation>Die Werte dieser Prüfung stehen auf der Seite „Zusammenfassung“ und bleiben genau so, wie sie sind.</translation>
+    </message>
+    <message id="62102">
+        <source>Correction of %1</source>
+        <extracomment>Pane of a check: name of the field for the value to which a failing item is corrected; %1 is the parameter.</extracomment>
+        <translation>Korrektur von %1</translation>
+    </message>
+    <message id="62103">
+        <source>Criticalit&amp;y</source>
+        <extracomment>Pane of a check: label of the criticality, with a key.</extracomment>
+        <translation>&amp;Kritikalität</translation>
+    </message>
+    <message id="62104">
+        <source>Correct to</source>
+        <extracomment>Pane of a check: heading of the values to which a failing item is corrected.</extracomment>
+        <translation>Korrigieren auf</translation>
+    </message>
+    <message id="62105">
+        <source>Name of the standard</source>
+        <extracomment>Pane of the drafting standard: field for the name of a custom standard.</extracomment>
+        <translation>Name der Norm</translation>
+    </message>
+    <message id="62110">
+        <source>The assembly must not contain hidden components.</source>
+        <extracomment>Pane of a check: what it requires.</extracomment>
+        <translation>Die Baugruppe darf keine ausgeblendeten Komponenten enthalten.</translation>
+    </message>
+    <message id="1325.1000">
+        <source>Units</source>
+        <extracomment>Heading on the options page.</extracomment>
+        <translation>Einheiten</translation>
+    </message>
+    <message id="1325.1001">
+        <source>Lengths and angles of this standard are entered and shown in these units. Choosing another unit converts every value; new standards start with the units chosen last.</source>
+        <extracomment>Explanation on the options page.</extracomment>
+        <translation>Längen und Winkel dieses Standards werden in diesen Einheiten eingegeben und angezeigt. Beim Wechsel einer Einheit werden alle Werte umgerechnet; neue Standards beginnen mit den zuletzt gewählten Einheiten.</translation>
+    </message>
+    <message id="1325.1002">
+        <source>&amp;Length unit:</source>
+        <extracomment>Label on the options page.</extracomment>
+        <translation>&amp;Längeneinheit:</translation>
+    </message>
+    <message id="1325.1003">
+        <source>&amp;Angle unit:</source>
+        <extracomment>Label on the options page.</extracomment>
+        <translation>&amp;Winkeleinheit:</translation>
+    </message>
+    <message id="1325.1004">
+        <source>Configurations</source>
+        <extracomment>Heading on the options page.</extracomment>
+        <translation>Konfigurationen</translation>
+    </message>
+    <message id="1325.1005">
+        <source>Which configuration of a document the checker looks at when it runs this standard.</source>
+        <extracomment>Explanation on the options page.</extracomment>
+        <translation>Welche Konfiguration eines Dokuments der Prüfer betrachtet, wenn er diesen Standard ausführt.</translation>
+    </message>
+    <message id="1325.1238">
+        <source>Run with the &amp;default configuration</source>
+        <extracomment>Choice on the options page.</extracomment>
+        <translation>Mit der &amp;Standardkonfiguration ausführen</translation>
+    </message>
+    <message id="1325.1239">
+        <source>Run with the configuration of the d&amp;ocument</source>
+        <extracomment>Choice on the options page.</extracomment>
+        <translation>Mit der Konfiguration des D&amp;okuments ausführen</translation>
+    </message>
 </context>
 </TS>

@@ -5,6 +5,7 @@
 #pragma once
 
 #include "editing/EditingHost.h"
+#include "editing/PageScroller.h"
 #include "editing/PageTable.h"
 
 #include <QAbstractScrollArea>
@@ -45,6 +46,7 @@ public:
     void RelayoutKeepScroll();
     void ShowPane(CExtDialog& pane, int position);
     void UpdateExpandButton(CExtDialog& pane);
+    void ShowCheck(MQC_CheckType_e type); // brings its group and its pane, opened, into view
     void LoadPane(const CCheck& check);
     void FillFromPane(CCheck& check);
     CCheck* GetCurrentCheck() const;
@@ -52,8 +54,46 @@ public:
     // The standard's checks that stand on the page, in the order of the catalogue.
     std::vector<CCheck*> ChecksInCatalogueOrder() const;
 
+protected:
+    bool eventFilter(QObject* object, QEvent* event) override;
+    bool focusNextPrevChild(bool next) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void scrollContentsBy(int dx, int dy) override;
+    void paintEvent(QPaintEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
+
 private:
+    void BuildTable();
+
+    // The stack.
+    int OpenStack(); // the next free position
+    void CloseGap(int position, int size);
+    void MovePosition(int from, int to);
+    bool IsPlaced(MQC_CheckType_e type) const { return TypeToPos.count(type) > 0; }
+    CheckList PlacedChecks() const; // in the standard's order
+    void RebuildPositions();
+    CExtDialog* PaneAt(int position) const; // null where none begins there
+    CCheck* LiveCheck(MQC_CheckType_e type) const;
+
+    // The layout.
+    bool IsCheckOutsideTab(const CExtDialog& pane) const;
+    int ShownHeight(const CExtDialog& pane) const;
+    void LayOut();
+    void PlacePane(CExtDialog& pane, int width, int height);
+    void RevealPane(const CExtDialog& pane);
+
+    // The keyboard.
+    void JoinTabOrder(CExtDialog& pane);
+    void RevealControl(const QWidget& control);
+
+    void ClearSelection();
+    void PutBack(MQC_CheckType_e type);
+    void SelectAndReveal(MQC_CheckType_e type);
+
     EditingHost& m_host;
+    CPageScroller Scroller;
     int SelectedPos = -1;             // of the pane with the keyboard, -1 for none
     int NextPos = 0;                  // -1 while the stack is empty after a removal
     std::map<int, int> PosToSequence; // to the number of the check within the standard
@@ -61,5 +101,8 @@ private:
     std::vector<int> Selection; // positions; several only after a selection with Ctrl
     PageTable Infos;
     unsigned CurrentSequence = 1;
-    int PaneWidth = 0; // pixels, of the first pane that was made
+    int PaneWidth = 0;       // pixels, of the first pane that was made
+    QWidget* m_firstTabStop; // unseen; stands before all panes in the order of Tab
+    bool m_isLayingOut = false;
+    bool m_isTakingUp = false; // the layout waits until all checks of a standard are there
 };

@@ -72,3 +72,13 @@ constexpr unsigned MergeMoreValues = 61406;      // %1 the parameter
 constexpr unsigned MergeCorrectionStays = 61407; // %1 the parameter
 constexpr unsigned MergeChildrenStay = 61408;    // lengths of the single checks in a container
 constexpr unsigned MergeAnglesStay = 61409;
+
+// The pages of a standard's window.
+constexpr unsigned PageEmptyTitle = 62001; // what a page without checks says
+constexpr unsigned PageChecksTab = 62002;
+constexpr unsigned PageSummaryTab = 62003;
+constexpr unsigned PageOptionsTab = 62004;
+constexpr unsigned PageEmptyText = 62005;
+constexpr unsigned PageGroupEmptyTitle = 62006; // where only the checks of other groups stand
+constexpr unsigned PageGroupEmptyText = 62007;
+constexpr unsigned PageTabTip = 62008; // %1 the page, %2 its key
