@@ -110,7 +110,9 @@ bool CPageDialog::focusNextPrevChild(bool next) {
 }
 
 void CPageDialog::keyPressEvent(QKeyEvent* event) {
-    if (event->key() == Qt::Key_Home)
+    if (event->modifiers() & Qt::ControlModifier)
+        event->ignore();
+    else if (event->key() == Qt::Key_Home)
         verticalScrollBar()->triggerAction(QAbstractSlider::SliderToMinimum);
     else if (event->key() == Qt::Key_End)
         verticalScrollBar()->triggerAction(QAbstractSlider::SliderToMaximum);
