@@ -1,0 +1,31 @@
+#include "editing/PaneControls.h"
+
+#include "editing/ComboBoxExt.h"
+#include "editing/ExtRichEditCtrl.h"
+#include "editing/GroupBoxExt.h"
+#include "editing/MyStatic.h"
+#include "editing/PaneLabels.h"
+#include "platform/widgets/TemplateLoader.h"
+
+namespace {
+
+template <class Control> void Register(const char* name) {
+    RegisterControlClass(name, [](QWidget* parent) -> QWidget* { return new Control(parent); });
+}
+
+bool RegisterAll() {
+    Register<CComboBoxExt>("CComboBoxExt");
+    Register<CExtRichEditCtrl>("CExtRichEditCtrl");
+    Register<CGroupBoxExt>("CGroupBoxExt");
+    Register<CFaintLine>("CFaintLine");
+    Register<CHeading>("CHeading");
+    Register<CHint>("CHint");
+    Register<CMyStatic>("CMyStatic");
+    return true;
+}
+
+} // namespace
+
+void RegisterPaneControls() {
+    [[maybe_unused]] static const bool isDone = RegisterAll();
+}
