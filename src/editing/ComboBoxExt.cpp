@@ -5,6 +5,8 @@
 #include <QAbstractItemView>
 #include <QScreen>
 #include <QScrollBar>
+#include <QStyleOptionComboBox>
+#include <QStylePainter>
 #include <QWheelEvent>
 
 CComboBoxExt::CComboBoxExt(QWidget* parent) : QComboBox(parent) {
@@ -30,13 +32,28 @@ int CComboBoxExt::PopupWidth() const {
     int widest = view()->sizeHintForColumn(modelColumn());
     if (count() > maxVisibleItems())
         widest += view()->verticalScrollBar()->sizeHint().width();
-    constexpr int Margins = 12;
+    constexpr int Margins = 24;
     return qMin(widest + Margins, qRound(screen()->availableSize().width() * WidestPopup));
 }
 
 void CComboBoxExt::showPopup() {
     view()->setMinimumWidth(qMax(width(), PopupWidth()));
     QComboBox::showPopup();
+}
+
+// A text that does not fit ends in dots; in the open list it stands in full.
+void CComboBoxExt::paintEvent(QPaintEvent*) {
+    QStylePainter painter(this);
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    painter.drawComplexControl(QStyle::CC_ComboBox, option);
+    const QRect field =
+        style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this);
+    constexpr int Margins = 8;
+    const int picture = option.currentIcon.isNull() ? 0 : option.iconSize.width() + 4;
+    option.currentText =
+        option.fontMetrics.elidedText(option.currentText, Qt::ElideRight, field.width() - picture - Margins);
+    painter.drawControl(QStyle::CE_ComboBoxLabel, option);
 }
 
 void CComboBoxExt::wheelEvent(QWheelEvent* event) {

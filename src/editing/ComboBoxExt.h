@@ -20,6 +20,7 @@ public:
     static constexpr double WidestPopup = 0.6;
 
 protected:
+    void paintEvent(QPaintEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
 
 private:

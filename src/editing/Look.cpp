@@ -1,13 +1,16 @@
 #include "editing/Look.h"
 
+#include <QAbstractItemView>
 #include <QPainter>
-#include <QPainterPath>
 #include <QStyleOption>
 
 namespace {
 
 constexpr int FieldHeight = 24;
 constexpr int TickSize = 15;
+constexpr int RowHeight = 20;
+constexpr int RowMargin = 4;
+constexpr int FieldMargin = 5; // between the frame of a field and its text, beside the field's own
 constexpr qreal Radius = 3;
 
 QColor LineColor(const QStyleOption& option) {
@@ -51,6 +54,18 @@ void DrawArrow(QPainter& painter, const QRectF& rect, bool isUp, bool isEnabled)
     painter.setPen(QPen(QColor(isEnabled ? Look::Mark : Look::DisabledText), 1.5, Qt::SolidLine, Qt::RoundCap,
                         Qt::RoundJoin));
     painter.drawPolyline(points, 3);
+    painter.restore();
+}
+
+// A thin line around what has the focus; a chosen row is told by its ground.
+void DrawFocus(QPainter& painter, const QStyleOption& option) {
+    if (option.state.testFlag(QStyle::State_Item))
+        return;
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QColor(Look::Accent));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRoundedRect(QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5), Radius, Radius);
     painter.restore();
 }
 
@@ -100,7 +115,7 @@ void DrawRadio(QPainter& painter, const QStyleOption& option) {
 } // namespace
 
 QPalette Look::ControlPalette() {
-    QPalette palette;
+    QPalette palette{QColor(Ground)}; // and nothing of the desktop's
     const auto set = [&palette](QPalette::ColorRole role, QRgb color) {
         palette.setColor(role, QColor(color));
     };
@@ -135,11 +150,32 @@ void ControlStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* o
             DrawFrame(*painter, *option, option->rect);
         return;
     case PE_FrameLineEdit: DrawFrame(*painter, *option, option->rect); return;
+    case PE_FrameFocusRect: DrawFocus(*painter, *option); return;
+    case PE_Frame:
+        if (qobject_cast<const QAbstractItemView*>(widget)) {
+            painter->setPen(LineColor(*option));
+            painter->setBrush(Qt::NoBrush);
+            painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
+            return;
+        }
+        break;
     case PE_IndicatorCheckBox:
     case PE_IndicatorItemViewItemCheck: DrawTickBox(*painter, *option); return;
     case PE_IndicatorRadioButton: DrawRadio(*painter, *option); return;
-    default: QProxyStyle::drawPrimitive(element, option, painter, widget);
+    default: break;
     }
+    QProxyStyle::drawPrimitive(element, option, painter, widget);
+}
+
+void ControlStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                               const QWidget* widget) const {
+    if (element != CE_HeaderSection) {
+        QProxyStyle::drawControl(element, option, painter, widget);
+        return;
+    }
+    painter->fillRect(option->rect, QColor(Look::Ground));
+    painter->fillRect(option->rect.left(), option->rect.bottom(), option->rect.width(), 1,
+                      QColor(Look::Chosen));
 }
 
 void ControlStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
@@ -157,11 +193,30 @@ void ControlStyle::drawComplexControl(ComplexControl control, const QStyleOption
     }
 }
 
+QRect ControlStyle::subControlRect(ComplexControl control, const QStyleOptionComplex* option, SubControl part,
+                                   const QWidget* widget) const {
+    const QRect rect = QProxyStyle::subControlRect(control, option, part, widget);
+    // The texts of a column of fields and boxes stand under one another.
+    return control == CC_ComboBox && part == SC_ComboBoxEditField ? rect.adjusted(2, 0, 0, 0) : rect;
+}
+
+QRect ControlStyle::subElementRect(SubElement element, const QStyleOption* option,
+                                   const QWidget* widget) const {
+    const QRect rect = QProxyStyle::subElementRect(element, option, widget);
+    const auto* frame =
+        element == SE_LineEditContents ? qstyleoption_cast<const QStyleOptionFrame*>(option) : nullptr;
+    return frame && frame->lineWidth > 0 ? rect.adjusted(FieldMargin - 1, 0, 1 - FieldMargin, 0) : rect;
+}
+
 QSize ControlStyle::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
                                      const QWidget* widget) const {
     QSize full = QProxyStyle::sizeFromContents(type, option, size, widget);
-    if (type == CT_LineEdit || type == CT_ComboBox || type == CT_SpinBox)
+    if (type == CT_SpinBox)
+        full.setHeight(qMax(size.height(), FieldHeight));
+    else if (type == CT_LineEdit || type == CT_ComboBox)
         full.setHeight(qMax(full.height(), FieldHeight));
+    else if (type == CT_ItemViewItem)
+        full.setHeight(qMax(full.height(), RowHeight));
     return full;
 }
 
@@ -171,6 +226,7 @@ int ControlStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, co
     case PM_IndicatorHeight:
     case PM_ExclusiveIndicatorWidth:
     case PM_ExclusiveIndicatorHeight: return TickSize;
+    case PM_FocusFrameHMargin: return qobject_cast<const QAbstractItemView*>(widget) ? RowMargin : 2;
     default: return QProxyStyle::pixelMetric(metric, option, widget);
     }
 }

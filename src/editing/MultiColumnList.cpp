@@ -17,6 +17,12 @@ MultiColumnList::MultiColumnList(QWidget* parent) : QTreeWidget(parent) {
     setAllColumnsShowFocus(true);
     setTextElideMode(Qt::ElideMiddle);
     setTabKeyNavigation(false);
+    QFont heading = font();
+    heading.setWeight(QFont::DemiBold);
+    header()->setFont(heading);
+    QPalette colors = header()->palette();
+    colors.setColor(QPalette::ButtonText, QColor(Look::Accent));
+    header()->setPalette(colors);
     header()->setSectionsMovable(false);
     header()->setHighlightSections(false);
     header()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);

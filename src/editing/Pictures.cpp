@@ -19,8 +19,10 @@ QPixmap PixmapOf(ImageType type, unsigned id, qreal scale) {
 QIcon PictureOf(ImageType type, unsigned id) {
     QIcon icon;
     for (const qreal scale : {1.0, 1.5, 2.0})
-        if (const QPixmap pixmap = PixmapOf(type, id, scale); !pixmap.isNull())
+        if (const QPixmap pixmap = PixmapOf(type, id, scale); !pixmap.isNull()) {
             icon.addPixmap(pixmap);
+            icon.addPixmap(pixmap, QIcon::Selected); // a chosen row does not tint its picture
+        }
     return icon;
 }
 

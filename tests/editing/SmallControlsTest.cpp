@@ -78,14 +78,16 @@ TEST(ExStatic, TellsOfThePointerAndTakesTheHoverColour) {
     window.Add<QLineEdit>();
     label->setText("<b>Caption</b>");
     label->SetHoverColor(0x951313);
-    ASSERT_TRUE(window.Show());
-    QSignalSpy hovers(label, &CExStatic::HoverChanged);
     const QColor own = label->palette().color(QPalette::WindowText);
+    ASSERT_TRUE(window.Show());
+    QEvent leave(QEvent::Leave);
+    QApplication::sendEvent(label, &leave); // wherever the pointer stood before
+    QSignalSpy hovers(label, &CExStatic::HoverChanged);
+    QTest::mouseMove(&window.Window(), {399, 299});
     QTest::mouseMove(label, {5, 5});
     QCoreApplication::processEvents();
     EXPECT_TRUE(label->IsHovered());
     EXPECT_EQ(label->palette().color(QPalette::WindowText), QColor(0x13, 0x13, 0x95));
-    QEvent leave(QEvent::Leave);
     QApplication::sendEvent(label, &leave);
     EXPECT_EQ(label->palette().color(QPalette::WindowText), own);
     EXPECT_EQ(hovers.size(), 2);
