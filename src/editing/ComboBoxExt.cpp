@@ -1,6 +1,6 @@
 #include "editing/ComboBoxExt.h"
 
-#include "editing/Pictures.h"
+#include "platform/widgets/Look.h"
 
 #include <QAbstractItemView>
 #include <QScreen>
@@ -17,10 +17,10 @@ CComboBoxExt::CComboBoxExt(QWidget* parent) : QComboBox(parent) {
 }
 
 void CComboBoxExt::AddRow(const CString& text, unsigned bitmap) {
-    addItem(bitmap ? PictureOf(ImageType::Bitmap, bitmap) : QIcon(), text);
+    addItem(bitmap ? Look::IconOf(bitmap) : QIcon(), text);
     setItemData(count() - 1, text, Qt::ToolTipRole);
     if (bitmap)
-        setIconSize(iconSize().expandedTo(PictureSize(ImageType::Bitmap, bitmap)));
+        setIconSize(iconSize().expandedTo(Look::BitmapSizeOf(bitmap)));
 }
 
 // The row may be cut in a narrow column; its text is told in full.

@@ -1,6 +1,6 @@
 #include "editing/ExStatic.h"
 
-#include "editing/Look.h"
+#include "platform/widgets/Look.h"
 
 #include <QMouseEvent>
 
@@ -9,7 +9,7 @@ CExStatic::CExStatic(QWidget* parent) : QLabel(parent) {
 }
 
 void CExStatic::SetHoverColor(unsigned long color) {
-    m_hoverColor = QColor(Look::FromBgr(color));
+    m_hoverColor = QColor(FromColorRef(color));
 }
 
 void CExStatic::SetHovered(bool isHovered) {

@@ -7,7 +7,6 @@
 #include "editing/PageDialog.h"
 #include "editing/PaneCaption.h"
 #include "editing/PaneControls.h"
-#include "editing/Pictures.h"
 #include "engines/UnitConvertor.h"
 #include "engines/UnitText.h"
 #include "platform/Format.h"
@@ -84,7 +83,7 @@ void CExtDialog::FillCriticalityCombo() {
         return;
     if (Caption.compare(LoadString(CustomChecksText), Qt::CaseInsensitive) != 0) {
         for (std::size_t i = 0; i < std::size(CriticalityTexts); ++i)
-            combo->addItem(PictureOf(ImageType::Icon, CriticalityIcons[i]), LoadString(CriticalityTexts[i]));
+            combo->addItem(Look::SmallIconOf(CriticalityIcons[i]), LoadString(CriticalityTexts[i]));
         combo->setCurrentIndex(static_cast<int>(Criticality));
     }
     Connect(CriticalityControl, ControlEvent::SelChange, [this, combo] {

@@ -1,6 +1,6 @@
 #include "editing/GroupBoxExt.h"
 
-#include "editing/Look.h"
+#include "platform/widgets/Look.h"
 
 #include <QPainter>
 #include <QStyleOptionGroupBox>
@@ -19,17 +19,17 @@ CGroupBoxExt::CGroupBoxExt(QWidget* parent)
 }
 
 void CGroupBoxExt::SetLineColor(unsigned long color) {
-    m_line = QColor(Look::FromBgr(color));
+    m_line = QColor(FromColorRef(color));
     update();
 }
 
 void CGroupBoxExt::SetLightColor(unsigned long color) {
-    m_light = QColor(Look::FromBgr(color));
+    m_light = QColor(FromColorRef(color));
     update();
 }
 
 void CGroupBoxExt::SetTextColor(unsigned long color) {
-    m_text = QColor(Look::FromBgr(color));
+    m_text = QColor(FromColorRef(color));
     update();
 }
 
@@ -48,7 +48,7 @@ void CGroupBoxExt::paintEvent(QPaintEvent*) {
     bold.setWeight(QFont::DemiBold);
     painter.setFont(bold);
     const QFontMetrics metrics(bold);
-    painter.setPen(isEnabled() ? m_text : QColor(Look::DisabledText));
+    painter.setPen(isEnabled() ? m_text : QColor(Look::FaintText));
     const QRect heading(0, 0, width(), metrics.height());
     painter.drawText(heading, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextShowMnemonic, title());
     const int textWidth = metrics.size(Qt::TextShowMnemonic, title()).width();

@@ -1,7 +1,6 @@
 #include "editing/HoverButton.h"
 
-#include "editing/Look.h"
-#include "editing/Pictures.h"
+#include "platform/widgets/Look.h"
 
 #include <QKeyEvent>
 #include <QPainter>
@@ -20,7 +19,7 @@ CHoverButton::CHoverButton(QWidget* parent) : QAbstractButton(parent) {
 }
 
 bool CHoverButton::SetBitmap(unsigned id) {
-    const QSize strip = PictureSize(ImageType::Bitmap, id);
+    const QSize strip = Look::BitmapSizeOf(id);
     if (strip.isEmpty())
         return false;
     m_bitmap = id;
@@ -61,7 +60,7 @@ int CHoverButton::Part() const {
 void CHoverButton::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     const qreal scale = devicePixelRatioF();
-    const QPixmap strip = PixmapOf(ImageType::Bitmap, m_bitmap, scale);
+    const QPixmap strip = Look::BitmapOf(m_bitmap, *this);
     const QRectF source(Part() * m_size.width() * scale, 0, m_size.width() * scale, m_size.height() * scale);
     QRectF target(QPointF(), m_size);
     target.moveTopLeft({(width() - m_size.width()) / 2.0, (height() - m_size.height()) / 2.0});
@@ -71,6 +70,6 @@ void CHoverButton::paintEvent(QPaintEvent*) {
     if (!hasFocus())
         return;
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(QColor(Look::Accent), 2));
+    painter.setPen(QPen(QColor(Look::Heading), 2));
     painter.drawRoundedRect(target.adjusted(1, 1, -1, -1), 2.5, 2.5);
 }

@@ -1,6 +1,6 @@
 #include "editing/MultiColumnList.h"
 
-#include "editing/Look.h"
+#include "platform/widgets/Look.h"
 
 #include <QHeaderView>
 
@@ -21,7 +21,7 @@ MultiColumnList::MultiColumnList(QWidget* parent) : QTreeWidget(parent) {
     heading.setWeight(QFont::DemiBold);
     header()->setFont(heading);
     QPalette colors = header()->palette();
-    colors.setColor(QPalette::ButtonText, QColor(Look::Accent));
+    colors.setColor(QPalette::ButtonText, QColor(Look::Heading));
     header()->setPalette(colors);
     header()->setSectionsMovable(false);
     header()->setHighlightSections(false);
@@ -50,7 +50,7 @@ QTreeWidgetItem* MultiColumnList::AddGroup(const CString& title) {
     auto* group = new QTreeWidgetItem(this, {title});
     group->setFlags(Qt::ItemIsEnabled);
     group->setFirstColumnSpanned(true);
-    group->setForeground(0, QColor(Look::Accent));
+    group->setForeground(0, QColor(Look::Heading));
     QFont bold = font();
     bold.setWeight(QFont::DemiBold);
     group->setFont(0, bold);

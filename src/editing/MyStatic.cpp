@@ -2,13 +2,13 @@
 
 #include "editing/ComboBoxExt.h"
 #include "editing/ExACRichEdit.h"
-#include "editing/Look.h"
 #include "editing/Pictures.h"
 #include "engines/TextServices.h"
 #include "model/Parameter.h"
 #include "platform/Format.h"
 #include "platform/LanguageLibrary.h"
 #include "platform/Message.h"
+#include "platform/widgets/Look.h"
 
 #include <QFocusEvent>
 #include <QScopedValueRollback>
@@ -41,7 +41,7 @@ CMyStatic::CMyStatic(QWidget* parent)
     layout->addWidget(m_edit);
     layout->addWidget(m_list);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-    SetBase(m_list, Look::CorrectionField);
+    SetBase(m_list, Look::CorrectionGround);
     m_edit->installEventFilter(this);
     connect(m_edit, &QLineEdit::textChanged, this, &CMyStatic::OnFieldEdited);
     connect(m_list, &QComboBox::activated, this, &CMyStatic::OnChosen);
@@ -101,7 +101,7 @@ void CMyStatic::ShowField(const CString& text) {
     m_edit->setCursorPosition(m_edit->hasFocus() ? m_edit->cursorPosition() : 0);
     m_edit->setEnabled(Choices.Operator != OpNone);
     m_edit->setReadOnly(IsFixed());
-    SetFieldGround(Choices.Satisfies(text) ? Look::CorrectionField : Look::RefusedField);
+    SetFieldGround(Choices.Satisfies(text) ? Look::CorrectionGround : Look::WrongGround);
 }
 
 void CMyStatic::FillList() {
@@ -138,7 +138,7 @@ void CMyStatic::OnFieldEdited() {
             m_edit->setCursorPosition(point + 1);
         }
     }
-    SetFieldGround(Choices.CheckCorrectionText(text) ? Look::ValidField : Look::RefusedField);
+    SetFieldGround(Choices.CheckCorrectionText(text) ? Look::FieldGround : Look::WrongGround);
 }
 
 bool CMyStatic::eventFilter(QObject* watched, QEvent* event) {
@@ -158,7 +158,7 @@ void CMyStatic::OnFieldLeft(Qt::FocusReason reason) {
         return;
     }
     if (isInWindow)
-        SetFieldGround(Choices.Satisfies(m_edit->text()) ? Look::CorrectionField : Look::RefusedField);
+        SetFieldGround(Choices.Satisfies(m_edit->text()) ? Look::CorrectionGround : Look::WrongGround);
     Q_EMIT Committed();
 }
 

@@ -1,6 +1,6 @@
 #include "editing/PictureCtrl.h"
 
-#include "editing/Look.h"
+#include "platform/widgets/Look.h"
 
 #include <QImageReader>
 #include <QPainter>
@@ -29,8 +29,8 @@ bool CPictureCtrl::SetPictureFile(const CString& path) {
 
 void CPictureCtrl::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    painter.setPen(QColor(isEnabled() ? Look::FieldLine : Look::DisabledLine));
-    painter.setBrush(QColor(HasPicture() && isEnabled() ? Look::Field : Look::DisabledField));
+    painter.setPen(QColor(isEnabled() ? Look::Line : Look::FaintLine));
+    painter.setBrush(QColor(HasPicture() && isEnabled() ? Look::FieldGround : Look::PaneGround));
     painter.setRenderHint(QPainter::Antialiasing);
     painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 3, 3);
     if (!HasPicture())

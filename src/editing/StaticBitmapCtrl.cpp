@@ -1,6 +1,6 @@
 #include "editing/StaticBitmapCtrl.h"
 
-#include "editing/Pictures.h"
+#include "platform/widgets/Look.h"
 
 #include <QPainter>
 
@@ -13,12 +13,16 @@ void CStaticBitmapCtrl::SetPicture(ImageType type, unsigned id, const CString& n
     update();
 }
 
+QPixmap CStaticBitmapCtrl::Picture() const {
+    return m_type == ImageType::Icon ? Look::IconPixmapOf(m_id, *this) : Look::BitmapOf(m_id, *this);
+}
+
 QSize CStaticBitmapCtrl::sizeHint() const {
-    return m_id ? PictureSize(m_type, m_id) : QSize();
+    return m_id ? Picture().deviceIndependentSize().toSize() : QSize();
 }
 
 void CStaticBitmapCtrl::paintEvent(QPaintEvent*) {
-    const QPixmap pixmap = PixmapOf(m_type, m_id, devicePixelRatioF());
+    const QPixmap pixmap = Picture();
     const QSize size = sizeHint();
     if (pixmap.isNull())
         return;

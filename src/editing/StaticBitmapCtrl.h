@@ -3,6 +3,7 @@
 
 #include "platform/LanguageLibrary.h"
 
+#include <QPixmap>
 #include <QWidget>
 
 class CStaticBitmapCtrl : public QWidget {
@@ -11,7 +12,7 @@ class CStaticBitmapCtrl : public QWidget {
 public:
     using QWidget::QWidget;
 
-    // A number of 0 shows nothing. `name` says what the picture shows.
+    // A bitmap or an icon; a number of 0 shows nothing. `name` says what the picture shows.
     void SetPicture(ImageType type, unsigned id, const CString& name);
 
     QSize sizeHint() const override;
@@ -21,6 +22,8 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    QPixmap Picture() const;
+
     ImageType m_type = ImageType::Bitmap;
     unsigned m_id = 0;
 };

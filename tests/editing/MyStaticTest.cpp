@@ -2,9 +2,9 @@
 
 #include "editing/ComboBoxExt.h"
 #include "editing/ExACRichEdit.h"
-#include "editing/Look.h"
 #include "model/Parameter.h"
 #include "platform/LanguageLibrary.h"
+#include "platform/widgets/Look.h"
 #include "support/Messages.h"
 #include "support/ShownWindow.h"
 
@@ -125,13 +125,13 @@ TEST_F(CorrectionControl, ATextFieldTakesEverything) {
 
 TEST_F(CorrectionControl, TheGroundTellsWhetherTheEntryHolds) {
     Set(NumberEntry, OpAtLeast, {"10"}, "12");
-    EXPECT_EQ(Ground(), Look::CorrectionField);
+    EXPECT_EQ(Ground(), Look::CorrectionGround);
     Enter("1");
     EXPECT_EQ(Ground(), qRgb(0xFF, 0x96, 0x96));
     QTest::keyClicks(&Edit(), "5");
     EXPECT_EQ(Ground(), qRgb(0xFF, 0xFF, 0xFF));
     Leave();
-    EXPECT_EQ(Ground(), Look::CorrectionField);
+    EXPECT_EQ(Ground(), Look::CorrectionGround);
     EXPECT_EQ(m_commits, 1);
     EXPECT_TRUE(m_messages.texts.isEmpty());
     EXPECT_EQ(m_control.Choices.Text, "15");

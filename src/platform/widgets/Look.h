@@ -8,6 +8,7 @@
 #include <QFont>
 #include <QIcon>
 #include <QPixmap>
+#include <QSize>
 #include <cstdint>
 
 class QApplication;
@@ -52,7 +53,9 @@ void ApplyTo(QApplication& application);
 
 // Pictures of the language library, sharp at the scale of any screen. Empty where there is none.
 QIcon IconOf(unsigned bitmapId, unsigned disabledBitmapId = 0); // of a bitmap
+QIcon SmallIconOf(unsigned id);                                 // of an icon
 QPixmap BitmapOf(unsigned id, const QWidget& on);
 QPixmap IconPixmapOf(unsigned id, const QWidget& on); // of an icon
+QSize BitmapSizeOf(unsigned id);                      // in pixels of the window
 
 } // namespace Look

@@ -36,11 +36,12 @@ QPixmap PictureFor(ImageType type, unsigned id, const QWidget& on) {
     return picture;
 }
 
-// Draws a bitmap as large as it is asked for, from its shapes. One for the disabled state may be given;
+// Draws a picture as large as it is asked for, from its shapes. One for the disabled state may be given;
 // else the style makes it.
 class PictureEngine : public QIconEngine {
 public:
-    PictureEngine(unsigned id, unsigned disabledId) : m_id(id), m_disabledId(disabledId) {}
+    PictureEngine(ImageType type, unsigned id, unsigned disabledId)
+        : m_type(type), m_id(id), m_disabledId(disabledId) {}
 
     QIconEngine* clone() const override { return new PictureEngine(*this); }
     QString key() const override { return "ruleward"; }
@@ -70,7 +71,7 @@ public:
         if (own.isEmpty() || size.isEmpty())
             return {};
         const qreal scale = std::min(qreal(size.width()) / own.width(), qreal(size.height()) / own.height());
-        const QPixmap picture = PictureOf(ImageType::Bitmap, isOwnDisabled ? m_disabledId : m_id, scale);
+        const QPixmap picture = PictureOf(m_type, isOwnDisabled ? m_disabledId : m_id, scale);
         if (mode != QIcon::Disabled || isOwnDisabled)
             return picture;
         QStyleOption option;
@@ -79,20 +80,33 @@ public:
     }
 
 private:
-    QSize OwnSize() const { return PictureOf(ImageType::Bitmap, m_id, 1.0).size(); }
+    QSize OwnSize() const { return PictureOf(m_type, m_id, 1.0).size(); }
 
+    ImageType m_type;
     unsigned m_id;
     unsigned m_disabledId;
 };
+
+QIcon MakeIcon(ImageType type, unsigned id, unsigned disabledId) {
+    if (LoadImageSource(type, id).isEmpty())
+        return {};
+    return QIcon(new PictureEngine(type, id, disabledId));
+}
 
 } // namespace
 
 namespace Look {
 
 QIcon IconOf(unsigned bitmapId, unsigned disabledBitmapId) {
-    if (LoadImageSource(ImageType::Bitmap, bitmapId).isEmpty())
-        return {};
-    return QIcon(new PictureEngine(bitmapId, disabledBitmapId));
+    return MakeIcon(ImageType::Bitmap, bitmapId, disabledBitmapId);
+}
+
+QIcon SmallIconOf(unsigned id) {
+    return MakeIcon(ImageType::Icon, id, 0);
+}
+
+QSize BitmapSizeOf(unsigned id) {
+    return PictureOf(ImageType::Bitmap, id, 1.0).size();
 }
 
 QPixmap BitmapOf(unsigned id, const QWidget& on) {
