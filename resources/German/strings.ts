@@ -3863,6 +3863,70 @@
         <extracomment>Warning of a merge about a check from a file of another angle unit.</extracomment>
         <translation>Ihre Winkel wurden nicht in die Winkeleinheit des Ergebnisses umgerechnet.</translation>
     </message>
+    <message id="61701">
+        <source>Ready</source>
+        <extracomment>Status bar: nothing is going on.</extracomment>
+        <translation>Bereit</translation>
+    </message>
+    <message id="61702">
+        <source>&amp;Print Standard</source>
+        <extracomment>Command: prints the standard at once.</extracomment>
+        <translation>Standard &amp;drucken</translation>
+    </message>
+    <message id="61703">
+        <source>Do you want to save the changes to “%1”?
+If you discard them, they are lost.</source>
+        <extracomment>Question when a changed standard is closed; %1 is the name of its file.</extracomment>
+        <translation>Möchten Sie die Änderungen an „%1“ speichern?
+Wenn Sie sie verwerfen, gehen sie verloren.</translation>
+    </message>
+    <message id="61704">
+        <source>The file “%1” could not be saved.
+What stood there before is untouched, and your changes stay in the open standard.</source>
+        <extracomment>Message of a failed save; %1 is the file. The reason follows on a line of its own.</extracomment>
+        <translation>Die Datei „%1“ konnte nicht gespeichert werden.
+Ihr bisheriger Inhalt ist unversehrt, und Ihre Änderungen bleiben im geöffneten Standard.</translation>
+    </message>
+    <message id="61705">
+        <source>The file “%1” does not exist.</source>
+        <extracomment>Message on opening a file; %1 is its path.</extracomment>
+        <translation>Die Datei „%1“ gibt es nicht.</translation>
+    </message>
+    <message id="61706">
+        <source>The help has no page for topic %1 yet.</source>
+        <extracomment>Message of the help; %1 is the topic.</extracomment>
+        <translation>Die Hilfe hat noch keine Seite zum Thema %1.</translation>
+    </message>
+    <message id="61707">
+        <source>&amp;Save</source>
+        <extracomment>Button of the question about changes.</extracomment>
+        <translation>&amp;Speichern</translation>
+    </message>
+    <message id="61708">
+        <source>&amp;Discard</source>
+        <extracomment>Button of the question about changes.</extracomment>
+        <translation>&amp;Verwerfen</translation>
+    </message>
+    <message id="61709">
+        <source>Cancel</source>
+        <extracomment>Button of a question.</extracomment>
+        <translation>Abbrechen</translation>
+    </message>
+    <message id="61710">
+        <source>OK</source>
+        <extracomment>Button of a message.</extracomment>
+        <translation>OK</translation>
+    </message>
+    <message id="61711">
+        <source>&amp;Yes</source>
+        <extracomment>Button of a question.</extracomment>
+        <translation>&amp;Ja</translation>
+    </message>
+    <message id="61712">
+        <source>&amp;No</source>
+        <extracomment>Button of a question.</extracomment>
+        <translation>&amp;Nein</translation>
+    </message>
     <message id="62001">
         <source>This standard has no checks yet</source>
         <extracomment>Hint: an empty page of checks.</extracomment>

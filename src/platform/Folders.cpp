@@ -68,19 +68,6 @@ CString TwoDigits(int number) {
     return CString("%1").arg(number, 2, 10, QChar(u'0'));
 }
 
-// The folder of this run in `parent`, or an empty text. A run that started in the same millisecond has the
-// stamp already, and deletes its folder when it ends: this run takes a later one.
-CString MakeStampFolder(const CString& parent, COleDateTime time) {
-    for (int attempt = 0; attempt < 1000; ++attempt, time = time.addMSecs(1)) {
-        const CString path = parent + "/" + MakeRunStamp(time);
-        if (MakePrivateFolder(NativePath(path)))
-            return path;
-        if (errno != EEXIST)
-            break;
-    }
-    return {};
-}
-
 } // namespace
 
 bool EnsureFolder(const CString& path) {
@@ -102,6 +89,17 @@ CString MakeRunStamp(const COleDateTime& time) {
     return TwoDigits(day.year() % 100) + TwoDigits(day.month()) + TwoDigits(day.day()) +
            TwoDigits(clock.hour()) + TwoDigits(clock.minute()) + TwoDigits(clock.second()) +
            CString::number(clock.msec());
+}
+
+CString MakeStampFolder(const CString& parent, COleDateTime time) {
+    for (int attempt = 0; attempt < 1000; ++attempt, time = time.addMSecs(1)) {
+        const CString path = parent + "/" + MakeRunStamp(time);
+        if (MakePrivateFolder(NativePath(path)))
+            return path;
+        if (errno != EEXIST)
+            break;
+    }
+    return {};
 }
 
 CString TemporaryFolder() {

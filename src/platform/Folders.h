@@ -14,6 +14,11 @@ void DeleteFolderTree(const CString& path);
 // The time as folder name: year (2 digits), month, day, hour, minute, second (2 each), milliseconds (1 to 3).
 CString MakeRunStamp(const COleDateTime& time = COleDateTime::currentDateTime());
 
+// Makes a folder of this user's own in `parent`, named by the stamp of the time or, where such a folder
+// stands already, of the next free millisecond: its maker deletes it some day, and must not delete another's.
+// An empty text where none can be made.
+CString MakeStampFolder(const CString& parent, COleDateTime time = COleDateTime::currentDateTime());
+
 // The folder in which temporary files are made: $TMPDIR, or a folder of the user's own.
 CString TemporaryFolder();
 

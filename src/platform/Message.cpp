@@ -16,7 +16,12 @@ MessageAnswer ShowMessage(const CString& text, MessageButtons buttons) {
     if (const MessageHandler handler = CurrentHandler())
         return handler(text, buttons);
     std::fprintf(stderr, "%s\n", text.toUtf8().constData());
-    return buttons == MessageButtons::YesNo ? MessageAnswer::No : MessageAnswer::Ok;
+    switch (buttons) {
+    case MessageButtons::YesNo: return MessageAnswer::No;
+    case MessageButtons::SaveDiscardCancel: return MessageAnswer::Cancel;
+    case MessageButtons::Ok: break;
+    }
+    return MessageAnswer::Ok;
 }
 
 MessageScope::MessageScope(MessageHandler handler) : m_previous(std::move(CurrentHandler())) {

@@ -6,8 +6,8 @@
 
 #include <functional>
 
-enum class MessageButtons { Ok, YesNo };
-enum class MessageAnswer { Ok, Yes, No };
+enum class MessageButtons { Ok, YesNo, SaveDiscardCancel };
+enum class MessageAnswer { Ok, Yes, No, Save, Discard, Cancel };
 
 // Shows `text` and waits for the answer. An empty text is an event like any other.
 MessageAnswer ShowMessage(const CString& text, MessageButtons buttons = MessageButtons::Ok);
@@ -15,7 +15,7 @@ MessageAnswer ShowMessage(const CString& text, MessageButtons buttons = MessageB
 using MessageHandler = std::function<MessageAnswer(const CString& text, MessageButtons buttons)>;
 
 // Puts a handler in force for its own life and the one before it back in force afterwards.
-// With no handler at all, messages go to standard error and questions are answered with No.
+// With no handler at all, messages go to standard error and questions are answered with No or Cancel.
 class MessageScope {
 public:
     explicit MessageScope(MessageHandler handler);

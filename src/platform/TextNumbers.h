@@ -82,3 +82,17 @@ constexpr unsigned PageEmptyText = 62005;
 constexpr unsigned PageGroupEmptyTitle = 62006; // where only the checks of other groups stand
 constexpr unsigned PageGroupEmptyText = 62007;
 constexpr unsigned PageTabTip = 62008; // %1 the page, %2 its key
+
+// Of the windows.
+constexpr unsigned StatusReady = 61701;
+constexpr unsigned PrintAtOnceText = 61702;
+constexpr unsigned SaveChangesQuestion = 61703; // %1 the file's name
+constexpr unsigned SaveFailed = 61704;          // %1 the file
+constexpr unsigned FileMissing = 61705;         // %1 the file
+constexpr unsigned HelpPageMissing = 61706;     // %1 the topic
+constexpr unsigned ButtonSave = 61707;
+constexpr unsigned ButtonDiscard = 61708;
+constexpr unsigned ButtonCancel = 61709;
+constexpr unsigned ButtonOk = 61710;
+constexpr unsigned ButtonYes = 61711;
+constexpr unsigned ButtonNo = 61712;

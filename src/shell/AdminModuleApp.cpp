@@ -1,0 +1,102 @@
+#include "shell/AdminModuleApp.h"
+
+#include "platform/LanguageLibrary.h"
+#include "platform/Message.h"
+#include "platform/TextNumbers.h"
+#include "platform/widgets/Look.h"
+#include "shell/AdminModuleDoc.h"
+#include "shell/ChildFrame.h"
+#include "shell/CommandTable.h"
+#include "shell/MainFrame.h"
+
+#include <QCoreApplication>
+#include <QDesktopServices>
+#include <QFileInfo>
+#include <QPageSetupDialog>
+#include <QPrinter>
+#include <QUrl>
+#include <algorithm>
+
+CAdminModuleApp::CAdminModuleApp(ViewMaker makeView)
+    : m_makeView(std::move(makeView)), m_router([this] { return Chain(); }) {
+    for (const AppCheckRow& row : AppChecks())
+        AddCatalogueEntry(row.type, row.info);
+    for (const QRgb color : Look::PaletteColors)
+        m_brushes.emplace_back(QColor(color));
+    m_brushes.emplace_back(Qt::NoBrush);
+}
+
+CAdminModuleApp::~CAdminModuleApp() {
+    m_router.AfterUpdate = nullptr;
+    m_frame.reset(); // with all windows and what they show
+    for (CAdminModuleDoc* document : m_documents)
+        delete document;
+}
+
+void CAdminModuleApp::AddCatalogueEntry(MQC_CheckType_e type, const CAppCheckInfo& info) {
+    m_catalogue.emplace_back(type, std::make_unique<CAppCheckInfo>(info));
+}
+
+std::vector<CommandTarget*> CAdminModuleApp::Chain() {
+    DocumentView* view = GetActiveView();
+    return {view ? &view->Commands() : nullptr, GetActiveDocument(), m_frame.get(), this};
+}
+
+CAdminModuleDoc* CAdminModuleApp::GetActiveDocument() const {
+    const CChildFrame* child = m_frame ? m_frame->GetActiveChild() : nullptr;
+    return child ? &child->GetDocument() : nullptr;
+}
+
+DocumentView* CAdminModuleApp::GetActiveView() const {
+    const CChildFrame* child = m_frame ? m_frame->GetActiveChild() : nullptr;
+    return child ? child->GetView() : nullptr;
+}
+
+void CAdminModuleApp::FlipShowAll() {
+    ShowAll = !ShowAll;
+    for (const CAdminModuleDoc* document : m_documents)
+        if (DocumentView* view = document->GetView())
+            view->OnShownGroupsChanged();
+    m_router.Arm();
+}
+
+QPrinter& CAdminModuleApp::GetPrinter() {
+    if (!m_printer)
+        m_printer = std::make_unique<QPrinter>();
+    return *m_printer;
+}
+
+void CAdminModuleApp::OnFilePrintSetup() {
+    QPageSetupDialog(&GetPrinter(), m_frame.get()).exec();
+}
+
+void CAdminModuleApp::ShowHelp(unsigned command, unsigned topic) {
+    const CString name = command == 0 ? CString("index") : CString::number(topic);
+    const CString page = LanguageFolder + "/help/" + name + ".html";
+    if (QFileInfo::exists(page))
+        QDesktopServices::openUrl(QUrl::fromLocalFile(page));
+    else
+        ShowMessage(LoadString(HelpPageMissing).replace("%1", name));
+}
+
+bool CAdminModuleApp::OnCommand(unsigned id) {
+    switch (id) {
+    case Command::New: OnFileNew(); return true;
+    case Command::Open: OnFileOpenStandard(); return true;
+    case Command::PrintSetup: OnFilePrintSetup(); return true;
+    case Command::HelpTopics: ShowHelp(0, 0); return true;
+    case Command::CloseAll: CloseAllDocuments(); return true;
+    default: return false;
+    }
+}
+
+bool CAdminModuleApp::OnUpdateCommand(unsigned id, CommandState& state) {
+    switch (id) {
+    case Command::New:
+    case Command::Open:
+    case Command::PrintSetup:
+    case Command::HelpTopics: return true;
+    case Command::CloseAll: state.enabled = !m_documents.empty(); return true;
+    default: return false;
+    }
+}

@@ -1,0 +1,33 @@
+// The dialogs in which the user chooses a standard's file.
+#pragma once
+
+#include "platform/Text.h"
+
+#include <QFileDialog>
+
+class CAdminModuleDoc;
+
+// The filter text of the language library in the form of this platform's dialogs: pairs of name and patterns,
+// parted by "|".
+CStringArray FileFilters();
+
+// The file to open, or an empty text where the user cancelled. It is there.
+CString AskFileToOpen(QWidget* owner, const CString& folder);
+
+// Asks where to save a document. A file that somebody else has locked is refused, and the dialog stays.
+class CExtFileDlg {
+public:
+    // `proposed` is a path or a name.
+    CExtFileDlg(CAdminModuleDoc& document, const CString& proposed, QWidget* owner);
+
+    bool DoModal(); // false where the user cancelled
+    CString GetPathName() const { return m_path; }
+
+private:
+    bool OnFileNameOK(const CString& path) const;
+
+    CAdminModuleDoc& m_document;
+    CString m_proposed;
+    QWidget* m_owner;
+    CString m_path;
+};
