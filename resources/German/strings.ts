@@ -3927,6 +3927,111 @@ Ihr bisheriger Inhalt ist unversehrt, und Ihre Änderungen bleiben im geöffnete
         <extracomment>Button of a question.</extracomment>
         <translation>&amp;Nein</translation>
     </message>
+    <message id="61801">
+        <source>Report: %1</source>
+        <extracomment>Title: window that shows a standard's report; %1 is the standard.</extracomment>
+        <translation>Bericht: %1</translation>
+    </message>
+    <message id="61802">
+        <source>&amp;Save as PDF...</source>
+        <extracomment>Caption: button of the report window. Access keys are unique in the window.</extracomment>
+        <translation>Als PDF &amp;speichern...</translation>
+    </message>
+    <message id="61803">
+        <source>&amp;Print...</source>
+        <extracomment>Caption: button of the report window. Access keys are unique in the window.</extracomment>
+        <translation>&amp;Drucken...</translation>
+    </message>
+    <message id="61804">
+        <source>&amp;Close</source>
+        <extracomment>Caption: button of the report window. Access keys are unique in the window.</extracomment>
+        <translation>S&amp;chließen</translation>
+    </message>
+    <message id="61805">
+        <source>PDF files (*.pdf)</source>
+        <extracomment>Filter: file type of a saved report. Keep the pattern in brackets.</extracomment>
+        <translation>PDF-Dateien (*.pdf)</translation>
+    </message>
+    <message id="61806">
+        <source>Laying out the report...</source>
+        <extracomment>Other: progress of printing or saving a report, before the number of pages is known.</extracomment>
+        <translation>Der Bericht wird umbrochen...</translation>
+    </message>
+    <message id="61807">
+        <source>&amp;Stop</source>
+        <extracomment>Caption: button beside the progress of printing or saving a report.</extracomment>
+        <translation>&amp;Anhalten</translation>
+    </message>
+    <message id="61808">
+        <source>Stopping...</source>
+        <extracomment>Other: in the place of the progress, after the user pressed the button Stop.</extracomment>
+        <translation>Wird angehalten...</translation>
+    </message>
+    <message id="61809">
+        <source>The file could not be written:
+%1
+
+%2</source>
+        <extracomment>Message: a report could not be saved; %1 is the file, %2 the reason. What stood there before is as it was.</extracomment>
+        <translation>Die Datei konnte nicht geschrieben werden:
+%1
+
+%2</translation>
+    </message>
+    <message id="61810">
+        <source>The report could not be printed on %1.
+
+%2</source>
+        <extracomment>Message: %1 is the printer, %2 the reason.</extracomment>
+        <translation>Der Bericht konnte auf %1 nicht gedruckt werden.
+
+%2</translation>
+    </message>
+    <message id="61811">
+        <source>Saving %1</source>
+        <extracomment>Title: progress of saving a report; %1 is the file's name.</extracomment>
+        <translation>%1 wird gespeichert</translation>
+    </message>
+    <message id="61812">
+        <source>Printing on %1</source>
+        <extracomment>Title: progress of printing a report; %1 is the printer.</extracomment>
+        <translation>Druck auf %1</translation>
+    </message>
+    <message id="61813">
+        <source>Saved: %1</source>
+        <extracomment>Other: line at the foot of the report window; %1 is the file.</extracomment>
+        <translation>Gespeichert: %1</translation>
+    </message>
+    <message id="61814">
+        <source>No printer is set up on this computer. The report can be saved as a PDF file.</source>
+        <extracomment>Message: the button Print of the report window where there is no printer.</extracomment>
+        <translation>Auf diesem Rechner ist kein Drucker eingerichtet. Der Bericht kann als PDF-Datei gespeichert werden.</translation>
+    </message>
+    <message id="61815">
+        <source>Larger (Ctrl++)</source>
+        <extracomment>Tooltip: button of the report window.</extracomment>
+        <translation>Größer (Strg++)</translation>
+    </message>
+    <message id="61816">
+        <source>Smaller (Ctrl+-)</source>
+        <extracomment>Tooltip: button of the report window.</extracomment>
+        <translation>Kleiner (Strg+-)</translation>
+    </message>
+    <message id="61821">
+        <source>About Ruleward Builder</source>
+        <extracomment>Title: the window that tells name and version of the program.</extracomment>
+        <translation>Über Ruleward Builder</translation>
+    </message>
+    <message id="61822">
+        <source>Version %1</source>
+        <extracomment>Other: in the window that tells name and version of the program; %1 is the number.</extracomment>
+        <translation>Version %1</translation>
+    </message>
+    <message id="61823">
+        <source>For writing down what a design department requires of its CAD documents.</source>
+        <extracomment>Other: in the window that tells name and version of the program: what it is for.</extracomment>
+        <translation>Zum Festhalten dessen, was eine Konstruktionsabteilung von ihren CAD-Dokumenten verlangt.</translation>
+    </message>
     <message id="62001">
         <source>This standard has no checks yet</source>
         <extracomment>Hint: an empty page of checks.</extracomment>

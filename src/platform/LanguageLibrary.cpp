@@ -11,6 +11,7 @@
 #include <QSvgRenderer>
 #include <QTranslator>
 #include <memory>
+#include <mutex>
 
 namespace {
 
@@ -116,6 +117,9 @@ CString LoadedLanguage() {
 }
 
 CString LoadString(unsigned id) {
+    // Long work in a thread of its own says how far it is and why it failed.
+    static std::mutex guard;
+    const std::lock_guard lock(guard);
     Library& library = Current();
     if (const auto known = library.cache.constFind(id); known != library.cache.constEnd())
         return *known;

@@ -1,6 +1,7 @@
 // The language library: every text and picture of the tool, keyed by type and number.
 // One binary resource file per language, "Lang/<language>/Rulewardresu.rcc" beside the program.
-// Used from the user-interface thread only.
+// Used from the user-interface thread only, but for LoadString, which other threads may call as well while the
+// language stays the same.
 #pragma once
 
 #include "platform/Text.h"

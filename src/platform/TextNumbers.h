@@ -96,3 +96,24 @@ constexpr unsigned ButtonCancel = 61709;
 constexpr unsigned ButtonOk = 61710;
 constexpr unsigned ButtonYes = 61711;
 constexpr unsigned ButtonNo = 61712;
+
+// The report window, printing, and what the tool tells of itself.
+constexpr unsigned ReportWindowTitle = 61801;    // %1 the standard
+constexpr unsigned ReportSavePdf = 61802;        // a button
+constexpr unsigned ReportPrint = 61803;          // a button
+constexpr unsigned ReportClose = 61804;          // a button
+constexpr unsigned ReportPdfFilter = 61805;      // a file dialog's
+constexpr unsigned ReportLayingOut = 61806;      // while the number of pages is not known
+constexpr unsigned ReportStop = 61807;           // a button
+constexpr unsigned ReportStopping = 61808;       // after it was pressed
+constexpr unsigned ReportFileNotWritten = 61809; // %1 the file, %2 the reason
+constexpr unsigned ReportNotPrinted = 61810;     // %1 the printer, %2 the reason
+constexpr unsigned ReportSaving = 61811;         // %1 the file
+constexpr unsigned ReportPrinting = 61812;       // %1 the printer
+constexpr unsigned ReportSaved = 61813;          // %1 the file
+constexpr unsigned ReportNoPrinter = 61814;
+constexpr unsigned ReportLarger = 61815;  // a button's tip
+constexpr unsigned ReportSmaller = 61816; // a button's tip
+constexpr unsigned AboutTitle = 61821;
+constexpr unsigned AboutVersion = 61822; // %1 the number
+constexpr unsigned AboutPurpose = 61823;

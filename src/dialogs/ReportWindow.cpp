@@ -1,0 +1,141 @@
+#include "dialogs/ReportWindow.h"
+
+#include "dialogs/ReportJob.h"
+#include "platform/LanguageLibrary.h"
+#include "platform/Message.h"
+#include "platform/TextNumbers.h"
+#include "platform/widgets/Look.h"
+
+#include <QBoxLayout>
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QLabel>
+#include <QPushButton>
+#include <QShortcut>
+#include <QStandardPaths>
+#include <QTextBrowser>
+#include <QToolButton>
+#include <algorithm>
+
+namespace {
+
+constexpr QSize FirstSize(880, 720);
+constexpr int PageMargin = 24; // around the report
+constexpr int MostZoom = 12;   // steps of one point
+constexpr int LeastZoom = -5;
+
+class PaperView : public QTextBrowser {
+public:
+    PaperView() { setViewportMargins(PageMargin, PageMargin / 2, PageMargin / 2, PageMargin / 2); }
+};
+
+} // namespace
+
+CString Report::Stem() const {
+    return QFileInfo(name).completeBaseName();
+}
+
+bool SaveReportPdf(const Report& report, const CString& target, QWidget* parent) {
+    const FileResult saved = RunReportWork(
+        LoadString(ReportSaving).arg(QFileInfo(target).fileName()),
+        [&](const ReportProgress& progress) {
+            return WriteReportPdf(report.html, report.folder, target, report.Stem(), progress);
+        },
+        parent);
+    if (!saved && !saved.reason.isEmpty())
+        ShowMessage(LoadString(ReportFileNotWritten).arg(QDir::toNativeSeparators(target), saved.reason));
+    return saved.ok;
+}
+
+ReportWindow::ReportWindow(const Report& report, QWidget* parent)
+    : QDialog(parent, Qt::Window), m_report(report), m_document(report.folder) {
+    setAttribute(Qt::WA_DeleteOnClose);
+    setWindowTitle(LoadString(ReportWindowTitle).arg(report.Stem()));
+    resize(FirstSize);
+    MakeControls();
+    AddShortcuts();
+    m_document.ShowPage(report.html);
+    m_page->setDocument(&m_document);
+    m_page->setFont(m_document.defaultFont()); // what a zoom starts from
+    m_page->setFocus();
+}
+
+ReportWindow::~ReportWindow() {
+    m_page->setDocument(nullptr); // it goes before the view does
+}
+
+void ReportWindow::MakeControls() {
+    auto* rows = new QVBoxLayout(this);
+    rows->setContentsMargins(12, 12, 12, 12);
+    rows->setSpacing(10);
+    m_page = new PaperView;
+    m_page->setOpenLinks(false);
+    m_page->setAccessibleName(windowTitle());
+    rows->addWidget(m_page, 1);
+    auto* buttons = new QHBoxLayout;
+    rows->addLayout(buttons);
+    m_state = new QLabel;
+    m_state->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    for (const int step : {-1, 1}) {
+        auto* zoom = new QToolButton;
+        zoom->setText(step > 0 ? "+" : "\u2212");
+        zoom->setToolTip(LoadString(step > 0 ? ReportLarger : ReportSmaller));
+        zoom->setAccessibleName(zoom->toolTip());
+        connect(zoom, &QToolButton::clicked, this, [this, step] { Zoom(step); });
+        buttons->addWidget(zoom);
+    }
+    buttons->addWidget(m_state, 1);
+    const auto add = [this, buttons](unsigned text, auto handler) {
+        auto* button = new QPushButton(LoadString(text));
+        button->setAutoDefault(false);
+        connect(button, &QPushButton::clicked, this, handler);
+        buttons->addWidget(button);
+        return button;
+    };
+    add(ReportSavePdf, &ReportWindow::OnSave)->setDefault(true);
+    add(ReportPrint, &ReportWindow::OnPrint);
+    add(ReportClose, &ReportWindow::reject);
+}
+
+void ReportWindow::AddShortcuts() {
+    const auto add = [this](const QKeySequence& keys, auto handler) {
+        connect(new QShortcut(keys, this), &QShortcut::activated, this, handler);
+    };
+    add(QKeySequence::Save, &ReportWindow::OnSave);
+    add(QKeySequence::Print, &ReportWindow::OnPrint);
+    add(QKeySequence(Qt::CTRL | Qt::Key_Plus), [this] { Zoom(1); });
+    add(QKeySequence(Qt::CTRL | Qt::Key_Equal), [this] { Zoom(1); }); // the same key without Shift
+    add(QKeySequence(Qt::CTRL | Qt::Key_Minus), [this] { Zoom(-1); });
+    add(QKeySequence(Qt::CTRL | Qt::Key_0), [this] { Zoom(-m_zoom); });
+}
+
+void ReportWindow::Zoom(int step) {
+    const int zoom = std::clamp(m_zoom + step, LeastZoom, MostZoom);
+    m_page->zoomIn(zoom - m_zoom);
+    m_zoom = zoom;
+}
+
+// Proposes a file beside the standard's own.
+void ReportWindow::OnSave() {
+    QFileDialog dialog(this);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setNameFilter(LoadString(ReportPdfFilter));
+    dialog.setDefaultSuffix("pdf");
+    const QFileInfo standard(m_report.name);
+    dialog.setDirectory(standard.isAbsolute()
+                            ? standard.path()
+                            : QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
+    dialog.selectFile(m_report.Stem() + ".pdf");
+    if (dialog.exec() != Accepted)
+        return;
+    const CString target = dialog.selectedFiles().value(0);
+    m_state->clear();
+    if (SaveReportPdf(m_report, target, this))
+        m_state->setText(LoadString(ReportSaved).arg(QDir::toNativeSeparators(target)));
+}
+
+void ReportWindow::OnPrint() {
+    if (Print)
+        Print(m_report, this);
+}

@@ -1,0 +1,46 @@
+// Shows a standard's report: where there is no printer, in its stead.
+#pragma once
+
+#include "files/ReportDocument.h"
+
+#include <QDialog>
+#include <functional>
+
+class QLabel;
+class QTextBrowser;
+
+// What is shown, saved and printed.
+struct Report {
+    QByteArray html;
+    CString folder; // with the folder of the pictures
+    CString name;   // of the standard: a path or a title
+
+    CString Stem() const;
+};
+
+// Saves the report as a PDF file, while its progress is shown. A failure is told to the user; false then.
+bool SaveReportPdf(const Report& report, const CString& target, QWidget* parent);
+
+class ReportWindow : public QDialog {
+    Q_OBJECT
+
+public:
+    explicit ReportWindow(const Report& report, QWidget* parent = nullptr);
+    ~ReportWindow() override;
+
+    // Prints the report; the window that is given is the one to ask questions over.
+    std::function<void(const Report& report, QWidget* window)> Print;
+
+private:
+    void MakeControls();
+    void AddShortcuts();
+    void OnSave();
+    void OnPrint();
+
+    Report m_report;
+    ReportDocument m_document;
+    QTextBrowser* m_page = nullptr; // the window owns both
+    QLabel* m_state = nullptr;
+    int m_zoom = 0;
+    void Zoom(int step);
+};
