@@ -64,6 +64,8 @@ public:
     // HitCell with the cell at a place of the viewport, 0 with nothing changed beside all cells.
     int HitTest(QPoint place, int& row, int& col) const;
     QRect CalcRectFromRowCol(int row, int col) const; // in the viewport, of the whole covered range
+    // The tip of the cell at a place of the viewport: its own, or what is cut or not in words; or empty.
+    CString TipAt(QPoint place) const;
     void RegisterEditor(unsigned id, std::function<QWidget*(QWidget* parent)> make);
     void SetBackColor(unsigned color);
     void SetBaseFont(const QFont& font); // of header and cells
@@ -97,7 +99,6 @@ private:
     void SyncRowHeight(int row);
     void SyncColWidth(int col);
     void ApplyCover(const GridRange& range);
-    CString TipAt(QPoint place) const;
 
     GridModel m_cells;
     GridHeader* m_header; // of Qt's ownership, as the editors

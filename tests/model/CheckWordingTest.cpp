@@ -85,6 +85,16 @@ TEST(CheckWording, DraftingStandardWithoutValues) {
     EXPECT_EQ(Rows(*CStandard::MakeCheck(101)), CStringArray{"Drafting Standard||--|1|-1"});
 }
 
+TEST(CheckWording, ThePageShowsTheCorrectionOfADraftingStandard) {
+    const auto check = CStandard::MakeCheck(101);
+    EXPECT_TRUE(WordCheckOfPage(*check, 0, 0).empty()) << "no choice is not in force";
+    Set(*check, 1578, OpOneOf, {"1", "2"}, "2");
+    const std::vector<CheckRow> rows = WordCheckOfPage(*check, 0, 0);
+    ASSERT_EQ(rows.size(), 1u);
+    EXPECT_EQ(rows[0].parameter.value, "ANSI,ISO");
+    EXPECT_EQ(rows[0].parameter.correction, "ISO");
+}
+
 TEST(CheckWording, EntriesOfAContainerTakeItsCriticality) {
     const auto container = CStandard::MakeCheck(105);
     container->Criticality = Critical;
