@@ -75,7 +75,7 @@ int CAdminGridClass::OnHover(QPoint place, bool drag) {
         return 1;
     SetCellTextColor(HoverRow, 0, 0);
     HoverRow = 0;
-    if (SetCellTextColor(named, 0, GridLink))
+    if (SetCellTextColor(named, 0, GridColors::LinkText))
         HoverRow = named;
     return 1;
 }

@@ -1,19 +1,17 @@
 #include "editing/CellEditors.h"
 
+#include "editing/CellComboBox.h"
+#include "editing/CellEdit.h"
 #include "editing/ExGridEditControl.h"
 #include "editing/GridClass.h"
 #include "editing/GridColors.h"
 
-#include <QComboBox>
 #include <QPainter>
 
 CellEditors::CellEditors(CGridClass& grid) : QStyledItemDelegate(&grid), m_grid(grid) {
-    Register(EditorText, [](QWidget* parent) {
-        auto* edit = new QLineEdit(parent);
-        edit->setFrame(false);
-        return edit;
-    });
-    Register(EditorCombo, [](QWidget* parent) { return new QComboBox(parent); });
+    constexpr bool ExcludesNothing = true;
+    Register(EditorText, [](QWidget* parent) { return new CCellEdit({}, ExcludesNothing, parent); });
+    Register(EditorCombo, [](QWidget* parent) { return new CCellComboBox(parent); });
     Register(EditorNumber, [](QWidget* parent) { return new CExGridEditControl(parent); });
 }
 
@@ -25,11 +23,11 @@ void CellEditors::paint(QPainter* painter, const QStyleOptionViewItem& option,
                         const QModelIndex& index) const {
     const bool hasFocus = option.state & QStyle::State_HasFocus;
     if (hasFocus)
-        painter->fillRect(option.rect, ColorOf(GridCurrent));
+        painter->fillRect(option.rect, QColor(GridColors::CurrentGround));
     m_grid.DrawCell(*painter, option.rect, index.row() + 1, index.column());
     if (!hasFocus)
         return;
-    painter->setPen(ColorOf(GridFrame));
+    painter->setPen(QColor(GridColors::Focus));
     painter->drawRect(option.rect.adjusted(0, 0, -1, -2));
 }
 

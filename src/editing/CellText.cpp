@@ -14,6 +14,7 @@ namespace {
 
 constexpr int Margin = 6;
 constexpr int LeastMargin = 1;
+constexpr int LeastLetterArea = 16; // in pixels: no letter that can be read is smaller
 constexpr int TightestPercent = 78; // of the usual width of letters
 
 // One way to set a text in a cell.
@@ -77,9 +78,14 @@ bool IsOneLine(const CString& text, const Setting& setting, QSize room) {
     return QFontMetrics(setting.font).horizontalAdvance(text) <= setting.Width(room);
 }
 
+// More letters than that have no room in any setting, and need not be laid out to know it.
+int MostLetters(QSize room) {
+    return std::max(256, room.width() * room.height() / LeastLetterArea);
+}
+
 // For a text that has room for one line only, and too little.
 Setting Squeezed(const CString& text, const CellTextLook& look, QSize room) {
-    const int width = QFontMetrics(look.font).horizontalAdvance(text);
+    const int width = QFontMetrics(look.font).horizontalAdvance(text.left(MostLetters(room)));
     const int percent = 100 * (room.width() - 2 * LeastMargin) / width;
     if (percent >= TightestPercent)
         return With(look, QTextOption::NoWrap, {LeastMargin, LeastMargin, percent});
@@ -90,6 +96,8 @@ Setting Squeezed(const CString& text, const CellTextLook& look, QSize room) {
 }
 
 Setting Choose(const CString& text, const CellTextLook& look, QSize room) {
+    if (text.size() > MostLetters(room))
+        return Squeezed(text, look, room);
     for (const Tightness& tightness : Tightnesses)
         if (const Setting setting = With(look, QTextOption::NoWrap, tightness);
             IsOneLine(text, setting, room))
@@ -104,7 +112,8 @@ Setting Choose(const CString& text, const CellTextLook& look, QSize room) {
 }
 
 // The text of as many lines as there is room for, the last one with an ellipsis.
-CString Shortened(const CString& text, const Setting& setting, QSize room) {
+CString Shortened(const CString& whole, const Setting& setting, QSize room) {
+    const CString text = whole.left(MostLetters(room));
     const QFontMetrics metrics(setting.font);
     const int width = setting.Width(room);
     QTextLayout layout(text, setting.font);

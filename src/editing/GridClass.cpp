@@ -33,7 +33,7 @@ CGridClass::CGridClass(QWidget* parent)
     verticalScrollBar()->setSingleStep(Pixels(350, logicalDpiY()));
     setCornerButtonEnabled(false);
     setMouseTracking(true);
-    SetBackColor(GridGround);
+    SetBackColor(PageColor);
     m_cells.CellEdited = [this](int row, int col) {
         if (CellEdited)
             CellEdited(row, col);
@@ -235,7 +235,7 @@ void CGridClass::RegisterEditor(unsigned id, std::function<QWidget*(QWidget* par
 void CGridClass::SetBackColor(unsigned color) {
     QPalette colors = palette();
     colors.setColor(QPalette::Base, ColorOf(color));
-    colors.setColor(QPalette::Text, ColorOf(GridText));
+    colors.setColor(QPalette::Text, QColor(GridColors::Text));
     setPalette(colors);
 }
 

@@ -81,6 +81,7 @@ public:
     std::function<void()> EditCommitted;               // a numeric cell that was changed is left
     std::function<void()> Resized;
 
+    static constexpr unsigned PageColor = 0xE3E1DE;
     static constexpr int HitCell = 4;
     static constexpr int ToolTipAttribute = 51022; // a cell's own tip
 

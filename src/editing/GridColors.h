@@ -1,14 +1,24 @@
-// The colours of grids, within the tool's palette. All are 0x00BBGGRR.
+// The colours of grids, within the tool's palette.
 #pragma once
 
-constexpr unsigned GridGround = 0xE3E1DE; // the ground of the pages
-constexpr unsigned GridText = 0x33271F;
-constexpr unsigned GridQuietText = 0x8F7C65; // where nothing is said
-constexpr unsigned GridHeaderTop = 0xDDD3C8;
-constexpr unsigned GridHeaderBottom = 0xC7BDB2;
-constexpr unsigned GridHeaderText = 0x7D2800;
-constexpr unsigned GridLine = 0xC7BDB2;      // between rows, and around framed cells
-constexpr unsigned GridQuietLine = 0xD8D4D0; // between rows that belong together
-constexpr unsigned GridFrame = 0x8F7C65;     // around the focus and around colours
-constexpr unsigned GridCurrent = 0xEEE8E1;   // the ground of the row with the focus
-constexpr unsigned GridLink = 0xFF0000;      // a text that can be clicked, under the pointer
+#include "platform/widgets/Look.h"
+
+namespace GridColors {
+
+constexpr QRgb Ground = Look::PageGround;
+constexpr QRgb Text = Look::Text;
+constexpr QRgb HeaderTop = Look::PaletteColors[2];
+constexpr QRgb HeaderBottom = Look::PaletteColors[3];
+constexpr QRgb HeaderText = Look::Heading;
+constexpr QRgb HeaderLine = Look::PaletteColors[0];
+constexpr QRgb Line = Look::PaletteColors[3]; // between rows, and around framed cells
+constexpr QRgb QuietLine = Look::FaintLine;   // between rows that belong together
+constexpr QRgb ColorFrame = Look::PaletteColors[0];
+constexpr QRgb Focus = Look::Focus;
+constexpr QRgb CurrentGround = Look::Hover; // of the cell with the focus
+
+// Colours of texts, 0x00BBGGRR as styles of cells hold them.
+constexpr unsigned LinkText = 0xFF0000;  // what can be clicked, under the pointer
+constexpr unsigned QuietText = 0x7A6A5A; // where nothing is said
+
+} // namespace GridColors

@@ -27,7 +27,7 @@ void CGXLayerColorControl::Draw(QPainter& painter, const CellDrawing& drawing) c
         return;
     }
     const QRect swatch = drawing.rect.adjusted(6, 4, -6, -4);
-    painter.fillRect(swatch, ColorOf(GridFrame));
+    painter.fillRect(swatch, QColor(GridColors::ColorFrame));
     painter.fillRect(swatch.adjusted(1, 1, -1, -1), ColorOf(*drawing.style.interior));
 }
 

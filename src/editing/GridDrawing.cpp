@@ -7,13 +7,15 @@
 #include <QTextDocument>
 #include <QToolTip>
 
+constexpr int LongestTip = 1000; // letters; a longer one would fill the screen
+
 CellTextLook CGridClass::TextLook(const CellStyle& style) const {
     CellTextLook look;
     look.font = font();
     look.font.setBold(style.bold.value_or(false));
     const unsigned color = style.textColor.value_or(0);
-    look.color = ColorOf(color == 0 ? GridText : color); // 0 is the grid's own
-    look.font.setUnderline(color == GridLink);
+    look.color = color == 0 ? QColor(GridColors::Text) : ColorOf(color); // 0 is the grid's own
+    look.font.setUnderline(color == GridColors::LinkText);
     look.alignment = style.alignment.value_or(Qt::AlignLeft) | Qt::AlignVCenter;
     look.wrap = style.wrap.value_or(true);
     return look;
@@ -49,9 +51,9 @@ void CGridClass::DrawCell(QPainter& painter, const QRect& rect, int row, int col
     FindControl(control)->Draw(painter, {*this, row, col, ContentRect(inside, row, col), cell, style});
     const bool isFull = EndsGroup(GetMergedCellsRowCol(row, col).bottom, col);
     painter.fillRect(QRect(rect.left(), rect.bottom(), rect.width(), 1),
-                     ColorOf(isFull ? GridLine : GridQuietLine));
+                     QColor(isFull ? GridColors::Line : GridColors::QuietLine));
     if (style.framed.value_or(false)) {
-        painter.setPen(ColorOf(GridLine));
+        painter.setPen(QColor(GridColors::Line));
         painter.drawRect(rect.adjusted(0, 0, -1, -1));
     }
 }
@@ -68,7 +70,9 @@ CString CGridClass::TipAt(QPoint place) const {
         return own.isEmpty() ? cell.spokenText : own;
     const QRect rect = CalcRectFromRowCol(row, col).adjusted(0, 0, 0, -1);
     const bool isCut = IsCellTextCut(rect, cell.text, TextLook(ComposeStyleRowCol(range.top, range.left)));
-    return isCut ? cell.text : CString();
+    if (!isCut)
+        return {};
+    return cell.text.size() > LongestTip ? cell.text.left(LongestTip) + u'\u2026' : cell.text;
 }
 
 bool CGridClass::viewportEvent(QEvent* event) {

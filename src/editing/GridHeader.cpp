@@ -20,14 +20,15 @@ void GridHeader::paintSection(QPainter* painter, const QRect& rect, int logicalI
     whole.setLeft(sectionViewportPosition(range.left));
     whole.setRight(sectionViewportPosition(range.right) + sectionSize(range.right) - 1);
     QLinearGradient band(whole.topLeft(), whole.bottomLeft());
-    band.setColorAt(0, ColorOf(GridHeaderTop));
-    band.setColorAt(1, ColorOf(GridHeaderBottom));
+    band.setColorAt(0, QColor(GridColors::HeaderTop));
+    band.setColorAt(1, QColor(GridColors::HeaderBottom));
     painter->fillRect(whole, band);
-    painter->fillRect(QRect(whole.left(), whole.bottom(), whole.width(), 1), ColorOf(GridFrame));
+    painter->fillRect(QRect(whole.left(), whole.bottom(), whole.width(), 1), QColor(GridColors::HeaderLine));
     if (range.right + 1 < count())
-        painter->fillRect(QRect(whole.right(), whole.top() + 4, 1, whole.height() - 8), ColorOf(GridFrame));
+        painter->fillRect(QRect(whole.right(), whole.top() + 4, 1, whole.height() - 8),
+                          QColor(GridColors::HeaderLine));
     CellTextLook look = m_grid.TextLook(m_cells.ComposeStyleRowCol(0, range.left));
-    look.color = ColorOf(GridHeaderText);
+    look.color = QColor(GridColors::HeaderText);
     look.wrap = false;
     DrawCellText(*painter, whole.adjusted(0, 0, -1, -1), m_cells.Cell(0, range.left).text, look);
 }

@@ -1,5 +1,6 @@
 #include "editing/PageSheet.h"
 
+#include "editing/GridColors.h"
 #include "platform/LanguageLibrary.h"
 
 #include <QVBoxLayout>
@@ -9,7 +10,6 @@ namespace {
 enum Column { NameColumn, ParameterColumn, ValueColumn, CorrectionColumn, IconColumn, CriticalityColumn };
 constexpr unsigned HeaderTexts[] = {2395, 2261, 1968, 1907, 2260, 2260};
 constexpr int ColumnCount = 6;
-constexpr int PageMargin = 8;
 
 // A width in twips of which the columns are parts.
 int BaseWidth(int clientWidth, int dpi) {
@@ -26,8 +26,8 @@ CString HeaderNames() {
 
 } // namespace
 
-CPageSheet::CPageSheet(QWidget* parent) : QWidget(parent), Grid(new CAdminGridClass(this)), Font(font()) {
-    Font.setPointSize(8);
+CPageSheet::CPageSheet(QWidget* parent)
+    : QWidget(parent), Grid(new CAdminGridClass(this)), Font(Look::PageFont()) {
     Grid->setObjectName("1005");
     Grid->setAccessibleName(HeaderNames());
     Grid->SetBaseFont(Font);
@@ -38,7 +38,7 @@ CPageSheet::CPageSheet(QWidget* parent) : QWidget(parent), Grid(new CAdminGridCl
         SetRowHeights();
     };
     auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(PageMargin, PageMargin, PageMargin, PageMargin);
+    layout->setContentsMargins(Look::Margin, Look::Margin, Look::Margin, Look::Margin);
     layout->addWidget(Grid);
     QPalette colors = palette();
     colors.setColor(QPalette::Window, ColorOf(BackColor));
@@ -126,7 +126,7 @@ void CPageSheet::FillCell(int row, int col, const SummaryCell& from) {
     if (from.form == SummaryCell::Text) {
         Grid->SetCellText(row, col, from.text);
         if (from.text == NothingToSay)
-            Grid->SetCellTextColor(row, col, GridQuietText);
+            Grid->SetCellTextColor(row, col, GridColors::QuietText);
         return;
     }
     Grid->SetCellSpokenText(row, col, from.text);

@@ -2,7 +2,6 @@
 #pragma once
 
 #include "editing/AdminGridClass.h"
-#include "editing/GridColors.h"
 #include "editing/SummaryRows.h"
 #include "editing/SummarySource.h"
 
@@ -18,7 +17,7 @@ public:
     CAdminGridClass* Grid; // child 1005
     int LastRow = 0;       // 0 when the grid holds only its header
     QHash<CString, MQC_CheckType_e> NameToType;
-    unsigned BackColor = GridGround;
+    unsigned BackColor = CGridClass::PageColor;
     QFont Font;
 
 private:

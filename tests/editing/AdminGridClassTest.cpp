@@ -101,13 +101,16 @@ TEST(AdminGridClass, ThePointerIsAHandOverCellsOnly) {
 }
 
 TEST(AdminGridClass, TheKeyboardStartsAtTheFirstRow) {
-    Hovered hovered;
+    QWidget window;
+    CAdminGridClass grid(&window);
+    grid.SetColCount(2);
+    grid.SetRowCount(2);
     int row = 0;
     int col = 0;
-    EXPECT_FALSE(hovered.grid.GetCurrentCell(row, col));
-    hovered.grid.clearFocus();
-    Gui::Focus(hovered.grid);
-    ASSERT_TRUE(hovered.grid.GetCurrentCell(row, col));
+    EXPECT_FALSE(grid.GetCurrentCell(row, col));
+    Gui::Show(window);
+    Gui::Focus(grid);
+    ASSERT_TRUE(grid.GetCurrentCell(row, col));
     EXPECT_EQ(row, 1);
     EXPECT_EQ(col, 0);
 }

@@ -187,7 +187,7 @@ TEST(GridClass, AColourCellShowsItsColour) {
     Gui::Show(grid);
     const QImage image = grid.Image();
     EXPECT_EQ(image.pixelColor(grid.Rect(1, 0).center()), QColor(0, 255, 0));
-    EXPECT_EQ(image.pixelColor(grid.Rect(1, 0).topLeft() + QPoint(6, 4)), ColorOf(GridFrame))
+    EXPECT_EQ(image.pixelColor(grid.Rect(1, 0).topLeft() + QPoint(6, 4)), QColor(GridColors::ColorFrame))
         << "with a frame";
     EXPECT_EQ(image.pixelColor(grid.Rect(1, 1).topLeft() + QPoint(1, 1)), QColor(0, 0, 255));
 }
@@ -203,14 +203,16 @@ TEST(GridClass, APictureIsDrawn) {
 }
 
 TEST(GridClass, AFramedCellHasABorder) {
-    Grid grid(1, 2);
-    grid.SetCellTextFramed(1, 0, "", true);
-    grid.SetCellTextFramed(1, 1, "", false);
+    Grid grid(2, 2);
+    grid.SetCellTextFramed(2, 0, "", true);
+    grid.SetCellTextFramed(2, 1, "", false);
     Gui::Show(grid);
     const QImage image = grid.Image();
-    EXPECT_EQ(image.pixelColor(grid.Rect(1, 0).left(), grid.Rect(1, 0).center().y()), ColorOf(GridLine));
-    EXPECT_EQ(image.pixelColor(grid.Rect(1, 1).left(), grid.Rect(1, 1).center().y()), ColorOf(GridGround));
-    EXPECT_EQ(grid.ComposeStyleRowCol(1, 0).control, ControlFramed);
+    EXPECT_EQ(image.pixelColor(grid.Rect(2, 0).left(), grid.Rect(2, 0).center().y()),
+              QColor(GridColors::Line));
+    EXPECT_EQ(image.pixelColor(grid.Rect(2, 1).left(), grid.Rect(2, 1).center().y()),
+              QColor(GridColors::Ground));
+    EXPECT_EQ(grid.ComposeStyleRowCol(2, 0).control, ControlFramed);
 }
 
 TEST(GridClass, AStaticCellHasItsGroundUnlessItIsNarrow) {

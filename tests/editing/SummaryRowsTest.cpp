@@ -70,7 +70,7 @@ TEST(SummaryRows, EveryParameterInForceIsARow) {
         Set(check, 1704, OpBetween, {"2.5", "3.5"}, "3.5");
         Set(check, 1702, OpEqual, {"1"});
     });
-    EXPECT_EQ(summary.Texts(), (CStringArray{"Font Name|Arial,Verdana|Arial", "Underline|Yes|--",
+    EXPECT_EQ(summary.Texts(), (CStringArray{"Font Name|Arial,Verdana|Arial", "Strikeout|Yes|--",
                                              "Text Height|between(2.5mm , 3.5mm)|3.5mm"}));
     EXPECT_EQ(Ranges(summary.Checks), CStringArray{"1+3"});
     EXPECT_EQ(Ranges(summary.Criticalities), CStringArray{"1+3"}) << "one for the whole check";
