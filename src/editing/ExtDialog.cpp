@@ -27,6 +27,8 @@ constexpr unsigned HelpTopicCommand = 15;
 constexpr unsigned CriticalityTexts[] = {2267, 2268, 2269, 2270};
 constexpr unsigned CriticalityIcons[] = {1425, 1424, 1426, 1427};
 constexpr int PositionUnit = 20; // pixels of height
+// All panes are of one width, for the page keeps them at the width of the first that was made.
+constexpr int LeastWidth = 844;
 
 constexpr QRgb PlainFrame = FromColorRef(0xA19290);
 constexpr QRgb SelectedFrame = FromColorRef(0xA14A4A);
@@ -70,7 +72,7 @@ bool CExtDialog::Create(QWidget* parent) {
     On(ExpandControl, ControlEvent::Clicked, &CExtDialog::ToggleExpand);
     if (!OnInitDialog())
         return false;
-    m_fullSize = m_body.sizeHint().expandedTo(m_body.minimumSize()) + QSize(2, Look::CaptionHeight + 1);
+    m_fullSize = (m_body.sizeHint() + QSize(2, Look::CaptionHeight + 1)).expandedTo({LeastWidth, 0});
     LogicalSize = m_fullSize.height() / PositionUnit + 1;
     resize(m_fullSize);
     WatchClicks(*this);
