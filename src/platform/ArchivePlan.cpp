@@ -50,7 +50,8 @@ ArchiveResult ArchivePlan::AddCurrent() {
         unzGetCurrentFileInfo64(m_zip, &entry.info, name.data(), name.size(), nullptr, 0, nullptr, 0) !=
             UNZ_OK)
         return ArchiveUnreadable(ArchiveDamaged);
-    name.truncate(entry.info.size_filename); // a name that is too long fills all 257 bytes
+    name.truncate(
+        static_cast<qsizetype>(entry.info.size_filename)); // a name that is too long fills all 257 bytes
     if (ArchiveResult result = CheckCurrent(name, entry); !result)
         return result;
     m_total += entry.info.uncompressed_size;

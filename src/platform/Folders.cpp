@@ -111,7 +111,7 @@ CString TemporaryFolder() {
     return own;
 }
 
-CString PrepareRunFolder(COleDateTime time) {
+CString PrepareRunFolder(const COleDateTime& time) {
     CString parent = TemporaryFolder();
     bool made = true;
     for (const char* level : {"/Ruleward", "/2026", "/CheckBuilder"}) {

@@ -26,4 +26,4 @@ CString TemporaryFolder();
 // No two runs share one. Every level is the user's own and closed to others; where a link or somebody else's
 // folder is in the way, or a level cannot be made, the path begins with an empty base, nothing is made there,
 // and later writes into it fail where they happen.
-CString PrepareRunFolder(COleDateTime time = COleDateTime::currentDateTime());
+CString PrepareRunFolder(const COleDateTime& time = COleDateTime::currentDateTime());

@@ -31,6 +31,13 @@ QByteArray PageOf(CStandard& standard, const TestFolder& folder) {
     return RenderReportHtml(files.xmlPath, files.stylesheetPath).html;
 }
 
+// As a printer whose paper has run out.
+class OnePageWriter : public QPdfWriter {
+public:
+    using QPdfWriter::QPdfWriter;
+    bool newPage() override { return false; }
+};
+
 // What the library says on its own, kept from the terminal.
 class LibraryWords {
 public:
@@ -219,6 +226,16 @@ TEST(ReportPages, DeviceThatTakesNothingIsTold) {
     EXPECT_FALSE(result.ok);
     EXPECT_EQ(result.reason, LoadString(ReportNotDrawn));
     EXPECT_EQ(words.Lines(), CStringArray("QPainter::begin(): Returned false"));
+}
+
+TEST(ReportPages, DeviceThatTakesNoFurtherPageIsTold) {
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    OnePageWriter writer(&buffer);
+    EXPECT_TRUE(DrawReportPages("x", "/", "x", writer).ok);
+    const FileResult result = DrawReportPages(TableOf(300).toUtf8(), "/", "x", writer);
+    EXPECT_FALSE(result.ok);
+    EXPECT_EQ(result.reason, LoadString(ReportNotDrawn));
 }
 
 TEST(ReportDocument, PicturesOfTheReportAreShown) {
