@@ -2,6 +2,7 @@
 #include "engines/ValueBox.h"
 
 #include <gtest/gtest.h>
+#include <ostream>
 #include <string>
 
 namespace {
@@ -92,6 +93,11 @@ constexpr Entry Entries[] = {
     {"BlankAfterACommaTakesTheCommaAway", "one of", Typed, "1, ", "1", true, 0},
     {"BoxOfBlanksStands", "one of", Pasted, "  ", "  ", true, 0},
 };
+
+// As the tests are listed.
+void PrintTo(const Entry& entry, std::ostream* out) {
+    *out << '"' << entry.input << "\" under \"" << entry.comparison << '"';
+}
 
 class Typing : public ::testing::TestWithParam<Entry> {};
 

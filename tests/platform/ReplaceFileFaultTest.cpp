@@ -167,13 +167,14 @@ INSTANTIATE_TEST_SUITE_P(Forms, ReplaceFileFault, ::testing::Bool(),
                          [](const auto& given) { return given.param ? "Copy" : "Bytes"; });
 
 TEST(ReplaceFileFullDisk, ASmallDiskLeavesTheOldFileByteForByte) {
-    const TestFolder folder;
-    QDir(folder.Path()).mkdir("disk");
-    folder.Put("source.zip", Content);
-    QFile::setPermissions(folder.Path("source.zip"), QFile::Permissions(0x6644));
-    QFile::setPermissions(folder.Path("disk"), QFile::Permissions(0x7777));
     for (const bool plainUser : {false, true}) {
         for (const bool copy : {false, true}) {
+            // one each: where nothing may be mounted, what a user saves stays in the way of the next
+            const TestFolder folder;
+            QDir(folder.Path()).mkdir("disk");
+            folder.Put("source.zip", Content);
+            QFile::setPermissions(folder.Path("source.zip"), QFile::Permissions(0x6644));
+            QFile::setPermissions(folder.Path("disk"), QFile::Permissions(0x7777));
             const CString answer = RunInChild([&] {
                 if (plainUser)
                     BecomePlainUser(folder.Path());
@@ -189,7 +190,7 @@ TEST(ReplaceFileFullDisk, ASmallDiskLeavesTheOldFileByteForByte) {
                     },
                     mounted ? ENOSPC : EFBIG);
             });
-            EXPECT_EQ(answer, "") << (plainUser ? "plain user" : "this user");
+            EXPECT_EQ(answer, "") << (plainUser ? "plain user: " : "this user: ") << answer.toStdString();
         }
     }
 }
