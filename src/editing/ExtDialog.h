@@ -82,6 +82,7 @@ public:
     int GetTemplateWidth() const; // pixels
     void SetSelected(bool isSelected);
     void ToggleExpand();
+    void UpdateExpandState(); // of the button, after a change of `Expanded`
     void ClosePane();
     void ShowHelpTopic(); // the help of this pane
 
