@@ -1,0 +1,123 @@
+// The units of a standard in its view.
+#include "ViewRoom.h"
+
+#include "engines/UnitConvertor.h"
+#include "platform/LanguageLibrary.h"
+
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+
+namespace {
+
+constexpr unsigned AddReferences = 32775;
+constexpr MQC_CheckType_e References = 107;
+constexpr int Millimetre = 0, Metre = 2, Inch = 3, FeetAndInches = 5, Degree = 0, Radian = 3;
+
+class ViewUnits : public ViewRoom {
+protected:
+    // A value and its label as a pane would have them.
+    void Attach(unsigned long dimension) {
+        value = new QLineEdit("1", &Pane(References));
+        label = new QLabel("?", &Pane(References));
+        Document().GetUnitSettings().push_back(std::make_unique<CUnitSettings>(value, label, 0, dimension));
+    }
+    void ChooseLength(const CString& name) {
+        View().ActivatePage(OptionsPage);
+        Gui::Settle();
+        auto& combo = *View().GetOptionsPage().GetDlgItem<QComboBox>(1280);
+        combo.setCurrentIndex(-1);
+        Gui::ChooseRow(combo, combo.findText(name));
+    }
+    int Setting(const char* name) {
+        int unit = -1;
+        CChkbldsetting().GetInt(name, unit);
+        return unit;
+    }
+
+    QLineEdit* value = nullptr;
+    QLabel* label = nullptr;
+};
+
+} // namespace
+
+TEST_F(ViewUnits, ANewStandardTakesTheUnitsOfTheSettings) {
+    EXPECT_EQ(Standard().Unit, Setting("UnitSettings"));
+    EXPECT_EQ(Standard().AngularUnit, Setting("AngularUnitSetting"));
+    EXPECT_EQ(View().GetOptionsPage().LengthUnitName, View().GetLengthUnitName());
+    EXPECT_FALSE(View().GetLengthUnitName().isEmpty());
+}
+
+TEST_F(ViewUnits, AChosenUnitConvertsControlsAndIsKeptForNewStandards) {
+    Send(AddReferences);
+    View().ApplyUnits(Millimetre, Degree);
+    Attach(DimensionLength);
+    value->setText("25.4");
+    View().ActivatePage(OptionsPage);
+    Gui::Settle();
+    // From millimetres down to inches each unit on the way is chosen in turn.
+    Gui::ChooseRow(*View().GetOptionsPage().GetDlgItem<QComboBox>(1280), 8);
+    EXPECT_EQ(Standard().Unit, Inch);
+    EXPECT_NEAR(value->text().toDouble(), 1.0, 1e-6);
+    EXPECT_EQ(label->text(), "in");
+    EXPECT_EQ(Setting("UnitSettings"), Inch);
+    EXPECT_EQ(View().GetLengthUnitName(), LoadString(1629));
+    New();
+    EXPECT_EQ(Standard().Unit, Inch);
+}
+
+TEST_F(ViewUnits, AnAngleUnitLeavesLengthsAlone) {
+    Send(AddReferences);
+    View().ApplyUnits(Millimetre, Degree);
+    Attach(DimensionAngle);
+    value->setText("180");
+    View().ActivatePage(OptionsPage);
+    Gui::Settle();
+    Gui::ChooseRow(*View().GetOptionsPage().GetDlgItem<QComboBox>(1341), 1);
+    EXPECT_EQ(Standard().AngularUnit, Radian);
+    EXPECT_EQ(Standard().Unit, Millimetre);
+    EXPECT_NEAR(value->text().toDouble(), 3.14159265, 1e-6);
+    EXPECT_EQ(label->text(), LoadString(1636));
+    EXPECT_EQ(Setting("AngularUnitSetting"), Radian);
+}
+
+TEST_F(ViewUnits, TheSameUnitOnceMoreChangesNothing) {
+    Send(AddReferences);
+    View().ApplyUnits(Inch, Degree);
+    Attach(DimensionLength);
+    value->setText("0.3");
+    ChooseLength(LoadString(1629));
+    EXPECT_EQ(value->text(), "0.3");
+}
+
+TEST_F(ViewUnits, UnitsFromOutsideKeepTheOldAngleForNewStandards) {
+    View().ApplyUnits(Inch, Degree);
+    View().ApplyUnits(Metre, Radian);
+    EXPECT_EQ(Standard().Unit, Metre);
+    EXPECT_EQ(Standard().AngularUnit, Radian);
+    EXPECT_EQ(Setting("UnitSettings"), Metre);
+    EXPECT_EQ(Setting("AngularUnitSetting"), Degree);
+    EXPECT_EQ(View().GetAngleUnitName(), LoadString(1636));
+}
+
+TEST_F(ViewUnits, RebuildingSetsLabelsAndLeavesValues) {
+    Send(AddReferences);
+    Attach(DimensionLength);
+    Standard().Unit = Inch;
+    View().RebuildDisplay();
+    EXPECT_EQ(label->text(), "in");
+    EXPECT_EQ(value->text(), "1");
+    Document().GetUnitSettings().clear();
+    Attach(DimensionAngle);
+    Standard().AngularUnit = Radian;
+    View().RebuildDisplay();
+    EXPECT_EQ(label->text(), LoadString(1636));
+}
+
+TEST_F(ViewUnits, AUnitThatIsNotOfferedIsKept) {
+    EXPECT_TRUE(Standard().LoadFromXmlText("<Standard Unit=\"5\" AngularUnit=\"0\" Version=\"2026\"/>"));
+    View().RebuildDisplay();
+    View().ActivatePage(OptionsPage);
+    EXPECT_EQ(View().GetOptionsPage().GetDlgItem<QComboBox>(1280)->currentIndex(), -1);
+    EXPECT_EQ(Standard().Unit, FeetAndInches);
+}
