@@ -1,8 +1,8 @@
 // A save of a whole standard, from its checks to the packed file: killed at any moment, it leaves the old
 // standard or the new one, whole, and the next save works.
-#include "files/FilledStandard.h"
 #include "files/Packing.h"
 #include "support/ChildProcess.h"
+#include "support/FilledStandard.h"
 #include "support/KillAtSyscall.h"
 #include "support/TestFolder.h"
 

@@ -1,8 +1,8 @@
 #include "files/Report.h"
 
-#include "files/FilledStandard.h"
 #include "files/LanguageScope.h"
 #include "files/XmlDocument.h"
+#include "support/FilledStandard.h"
 #include "support/Messages.h"
 #include "support/TestFolder.h"
 

@@ -1,9 +1,9 @@
 #include "files/ReportHtml.h"
 
-#include "files/FilledStandard.h"
 #include "files/LanguageScope.h"
 #include "files/Report.h"
 #include "files/RunProgram.h"
+#include "support/FilledStandard.h"
 #include "support/TestFolder.h"
 
 #include <gtest/gtest.h>

@@ -1,6 +1,5 @@
 #include "files/ReportPages.h"
 
-#include "files/FilledStandard.h"
 #include "files/LanguageScope.h"
 #include "files/Report.h"
 #include "files/ReportDocument.h"

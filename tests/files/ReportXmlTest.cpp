@@ -1,5 +1,5 @@
-#include "files/FilledStandard.h"
 #include "files/StandardFile.h"
+#include "support/FilledStandard.h"
 
 #include "files/XmlDocument.h"
 #include "platform/LanguageLibrary.h"

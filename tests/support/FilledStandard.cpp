@@ -1,4 +1,4 @@
-#include "files/FilledStandard.h"
+#include "support/FilledStandard.h"
 
 #include "engines/EnumTables.h"
 #include "engines/ParameterKinds.h"

@@ -1,0 +1,243 @@
+#include "shell/PrintStandard.h"
+
+#include "platform/Folders.h"
+#include "platform/LanguageLibrary.h"
+#include "platform/TextNumbers.h"
+#include "support/FilledStandard.h"
+#include "support/Gui.h"
+#include "support/Language.h"
+#include "support/Messages.h"
+#include "support/TestFolder.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QLabel>
+#include <QPageSetupDialog>
+#include <QPrinter>
+#include <QPushButton>
+#include <QTextBrowser>
+#include <gtest/gtest.h>
+
+namespace {
+
+// A printer that prints into a file.
+class FilePrinter : public PrintAdapter {
+public:
+    bool HasPrinter() const override { return hasPrinter; }
+    bool AskForPrinter(QPrinter&, QWidget*) const override {
+        ++asked;
+        return isAccepted;
+    }
+
+    bool hasPrinter = true;
+    bool isAccepted = true;
+    mutable int asked = 0;
+};
+
+class PrintStandardTest : public testing::Test {
+protected:
+    PrintStandardTest() : scope(adapter) {
+        qputenv("TMPDIR", folder.Path("tmp").toUtf8());
+        QDir(folder.Path()).mkdir("tmp");
+        printer.setOutputFormat(QPrinter::PdfFormat);
+        printer.setOutputFileName(folder.Path("printed.pdf"));
+        standard.Name = "/rules/Plates.kvstd";
+    }
+    ~PrintStandardTest() override {
+        if (QWidget* window = Shown())
+            delete window;
+        qputenv("TMPDIR", tmp);
+    }
+
+    static ReportWindow* Shown() {
+        for (QWidget* widget : QApplication::topLevelWidgets())
+            if (auto* window = qobject_cast<ReportWindow*>(widget))
+                return window;
+        return nullptr;
+    }
+    // The report window, which comes where there is no printer.
+    ReportWindow* Show() {
+        adapter.hasPrinter = false;
+        PrintStandard(standard, PrintWithDialog, nullptr);
+        ReportWindow* window = Shown();
+        if (window)
+            Gui::Show(*window);
+        return window;
+    }
+    bool IsPrinted() const { return folder.Get("printed.pdf").startsWith("%PDF"); }
+
+    const QByteArray tmp = qgetenv("TMPDIR");
+    TestFolder folder;
+    CStandard standard;
+    FilePrinter adapter;
+    PrintAdapterScope scope;
+    QPrinter& printer = PrinterOfTool();
+    Messages messages;
+};
+
+} // namespace
+
+TEST_F(PrintStandardTest, Print_AtOnceAsksNothing) {
+    FillStandard(standard);
+    PrintStandard(standard, PrintAtOnce, nullptr);
+    EXPECT_TRUE(IsPrinted());
+    EXPECT_EQ(adapter.asked, 0);
+    EXPECT_EQ(Shown(), nullptr);
+    EXPECT_EQ(messages.texts, CStringArray());
+}
+
+TEST_F(PrintStandardTest, Print_WithTheDialogAsksFirst) {
+    PrintStandard(standard, PrintWithDialog, nullptr);
+    EXPECT_EQ(adapter.asked, 1);
+    EXPECT_TRUE(IsPrinted());
+}
+
+TEST_F(PrintStandardTest, Print_CancelPrintsNothing) {
+    adapter.isAccepted = false;
+    PrintStandard(standard, PrintWithDialog, nullptr);
+    EXPECT_EQ(adapter.asked, 1);
+    EXPECT_FALSE(IsPrinted());
+    EXPECT_EQ(messages.texts, CStringArray());
+}
+
+TEST_F(PrintStandardTest, Print_AFailureNamesPrinterAndReason) {
+    printer.setOutputFileName(folder.Path("missing/printed.pdf"));
+    PrintStandard(standard, PrintAtOnce, nullptr);
+    ASSERT_EQ(messages.texts.size(), 1);
+    EXPECT_TRUE(messages.texts[0].contains(LoadString(ReportNotDrawn)));
+}
+
+TEST_F(PrintStandardTest, Print_WithoutPrinterTheReportIsShown) {
+    FillStandard(standard);
+    standard.Name = "/rules/Plates.kvstd";
+    ReportWindow* window = Show();
+    ASSERT_TRUE(window);
+    EXPECT_EQ(window->windowTitle(), "Report: Plates");
+    EXPECT_FALSE(window->isModal());
+    const CString text = window->findChild<QTextBrowser*>()->toPlainText();
+    EXPECT_TRUE(text.contains(LoadString(1945)));
+    EXPECT_TRUE(text.contains(LoadString(2395)));
+    EXPECT_EQ(folder.Names("tmp"), (CStringArray{"Plates.xml", "Standard.xsl", "resources"}));
+    EXPECT_FALSE(IsPrinted());
+}
+
+TEST_F(PrintStandardTest, Print_AStandardWithoutPicturesHasAnEmptyFolderOfThem) {
+    PrintStandard(standard, PrintAtOnce, nullptr);
+    EXPECT_EQ(folder.Names("tmp"), (CStringArray{"Plates.xml", "Standard.xsl", "resources"}));
+    EXPECT_EQ(folder.Names("tmp/resources"), CStringArray());
+}
+
+TEST_F(PrintStandardTest, Print_StandardsOfOneStemShareAFile) {
+    PrintStandard(standard, PrintAtOnce, nullptr);
+    CStandard other;
+    FillStandard(other);
+    other.Name = "/elsewhere/Plates.kvstd";
+    PrintStandard(other, PrintAtOnce, nullptr);
+    EXPECT_EQ(folder.Names("tmp").filter(".xml"), CStringArray{"Plates.xml"});
+    EXPECT_TRUE(folder.Get("tmp/Plates.xml").contains("/elsewhere/"));
+}
+
+TEST_F(PrintStandardTest, Print_AFolderThatCannotBeMadeIsToldAndTheReportPrinted) {
+    folder.Put("tmp/resources", "a file in the way");
+    QFile::setPermissions(folder.Path("tmp/resources"), QFile::ReadOwner);
+    QDir(folder.Path("tmp")).remove("resources");
+    folder.Put("tmp/resources", "a file in the way");
+    PrintStandard(standard, PrintAtOnce, nullptr);
+    EXPECT_TRUE(IsPrinted());
+    if (QFileInfo(folder.Path("tmp/resources")).isFile()) {
+        ASSERT_EQ(messages.texts.size(), 1);
+        EXPECT_TRUE(messages.texts[0].startsWith(LoadString(1917)));
+    }
+}
+
+TEST_F(PrintStandardTest, Print_AReportThatCannotBeWrittenIsToldByName) {
+    QDir(folder.Path("tmp")).mkdir("Plates.xml"); // a folder in the way of the file
+    PrintStandard(standard, PrintAtOnce, nullptr);
+    EXPECT_FALSE(IsPrinted());
+    ASSERT_EQ(messages.texts.size(), 1);
+    EXPECT_TRUE(messages.texts[0].contains(folder.Path("tmp/Plates.xml")));
+}
+
+TEST_F(PrintStandardTest, Print_ReportIsSavedAsPdf) {
+    FillStandard(standard);
+    ReportWindow* window = Show();
+    ASSERT_TRUE(window);
+    // A slow machine may show the progress; the first window is the file dialog in any case.
+    Gui::Answer answer([this](QWidget& box) { Gui::ChooseFile(box, folder.Path("report")); });
+    Gui::Key(*window, Qt::Key_S, Qt::ControlModifier);
+    EXPECT_TRUE(answer.WasAnswered());
+    EXPECT_TRUE(folder.Get("report.pdf").startsWith("%PDF"));
+    EXPECT_EQ(messages.texts, CStringArray());
+    bool isTold = false;
+    for (const QLabel* label : window->findChildren<QLabel*>())
+        isTold = isTold || label->text().contains(folder.Path("report.pdf"));
+    EXPECT_TRUE(isTold);
+}
+
+TEST_F(PrintStandardTest, Print_PdfThatCannotBeWrittenIsToldWithItsReason) {
+    folder.Put("stays.txt", "old");
+    QDir(folder.Path()).mkdir("dir.pdf");
+    Report report{"<p>text</p>", folder.Path("tmp"), standard.Name};
+    EXPECT_FALSE(SaveReportPdf(report, folder.Path("missing/report.pdf"), nullptr));
+    EXPECT_FALSE(SaveReportPdf(report, folder.Path("dir.pdf"), nullptr));
+    ASSERT_EQ(messages.texts.size(), 2);
+    EXPECT_TRUE(messages.texts[0].contains(folder.Path("missing/report.pdf")));
+    EXPECT_TRUE(messages.texts[1].contains(folder.Path("dir.pdf")));
+    EXPECT_EQ(folder.Names(), (CStringArray{"dir.pdf", "stays.txt", "tmp"}));
+}
+
+TEST_F(PrintStandardTest, Print_ReportWindowPrintsWhereAPrinterHasCome) {
+    ReportWindow* window = Show();
+    ASSERT_TRUE(window);
+    Gui::Key(*window, Qt::Key_P, Qt::ControlModifier);
+    EXPECT_EQ(messages.texts, CStringArray{LoadString(ReportNoPrinter)});
+    adapter.hasPrinter = true;
+    Gui::Key(*window, Qt::Key_P, Qt::ControlModifier);
+    EXPECT_EQ(adapter.asked, 1);
+    EXPECT_TRUE(IsPrinted());
+}
+
+TEST_F(PrintStandardTest, Print_ReportWindowIsZoomedAndClosedByKeys) {
+    ReportWindow* window = Show();
+    ASSERT_TRUE(window);
+    const auto* page = window->findChild<QTextBrowser*>();
+    const qreal points = page->document()->defaultFont().pointSizeF();
+    Gui::Key(*window, Qt::Key_Plus, Qt::ControlModifier);
+    Gui::Key(*window, Qt::Key_Equal, Qt::ControlModifier);
+    EXPECT_EQ(page->document()->defaultFont().pointSizeF(), points + 2);
+    Gui::Key(*window, Qt::Key_Minus, Qt::ControlModifier);
+    EXPECT_EQ(page->document()->defaultFont().pointSizeF(), points + 1);
+    Gui::Key(*window, Qt::Key_0, Qt::ControlModifier);
+    EXPECT_EQ(page->document()->defaultFont().pointSizeF(), points);
+    for (int step = 0; step < 40; ++step)
+        Gui::Key(*window, Qt::Key_Minus, Qt::ControlModifier);
+    EXPECT_GE(page->document()->defaultFont().pointSizeF(), 6);
+    Gui::Key(*window, Qt::Key_Escape);
+    EXPECT_EQ(Shown(), nullptr);
+}
+
+TEST_F(PrintStandardTest, Print_NoTextOfTheReportWindowIsCut) {
+    for (const char* language : {"English", "German"}) {
+        const Language in(language);
+        ReportWindow* window = Show();
+        ASSERT_TRUE(window);
+        for (const QPushButton* button : window->findChildren<QPushButton*>())
+            EXPECT_GE(button->width(), button->sizeHint().width()) << button->text().toStdString();
+        delete window;
+    }
+}
+
+TEST_F(PrintStandardTest, Print_PaperIsKeptForTheRun) {
+    const QPageLayout before = printer.pageLayout();
+    EXPECT_EQ(printer.pageLayout().margins(QPageLayout::Millimeter), QMarginsF(15, 15, 15, 15));
+    Gui::Answer answer([](QWidget& box) {
+        EXPECT_TRUE(qobject_cast<QPageSetupDialog*>(&box));
+        dynamic_cast<QPageSetupDialog&>(box).printer()->setPageSize(QPageSize(QPageSize::A3));
+        Gui::Key(box, Qt::Key_Escape);
+    });
+    SetUpPrinter(nullptr);
+    EXPECT_TRUE(answer.WasAnswered());
+    EXPECT_EQ(PrinterOfTool().pageLayout().pageSize().id(), QPageSize::A3);
+    printer.setPageLayout(before);
+}
