@@ -4,7 +4,6 @@
 #include "platform/LanguageLibrary.h"
 #include "platform/Message.h"
 #include "platform/TextNumbers.h"
-#include "platform/widgets/Look.h"
 
 #include <QBoxLayout>
 #include <QDir>
@@ -15,19 +14,31 @@
 #include <QShortcut>
 #include <QStandardPaths>
 #include <QTextBrowser>
+#include <QTimer>
 #include <QToolButton>
 #include <algorithm>
 
 namespace {
 
-constexpr QSize FirstSize(880, 720);
-constexpr int PageMargin = 24; // around the report
-constexpr int MostZoom = 12;   // steps of one point
+constexpr int PaperWidth = 800;
+constexpr int PaperMargin = 20; // around what is printed
+constexpr int Ground = 24;      // around the paper
+constexpr int ScrollBarRoom = 24;
+constexpr QSize FirstSize(PaperWidth + 2 * Ground + ScrollBarRoom + 24, 720);
+constexpr int MostZoom = 12; // steps of one point
 constexpr int LeastZoom = -5;
 
+// A sheet of one width, whatever the window's: each other width would be a new layout of the whole report.
 class PaperView : public QTextBrowser {
 public:
-    PaperView() { setViewportMargins(PageMargin, PageMargin / 2, PageMargin / 2, PageMargin / 2); }
+    PaperView() {
+        setViewportMargins(Ground, Ground / 2, Ground, Ground / 2);
+        setLineWrapMode(FixedPixelWidth);
+        setLineWrapColumnOrWidth(PaperWidth);
+        setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+        setMaximumWidth(PaperWidth + 2 * Ground + ScrollBarRoom);
+        setOpenLinks(false);
+    }
 };
 
 } // namespace
@@ -36,11 +47,11 @@ CString Report::Stem() const {
     return QFileInfo(name).completeBaseName();
 }
 
-bool SaveReportPdf(const Report& report, const CString& target, QWidget* parent) {
+bool SaveReportPdf(const Report& report, const CString& target, const QPageLayout& paper, QWidget* parent) {
     const FileResult saved = RunReportWork(
         LoadString(ReportSaving).arg(QFileInfo(target).fileName()),
         [&](const ReportProgress& progress) {
-            return WriteReportPdf(report.html, report.folder, target, report.Stem(), progress);
+            return WriteReportPdf(report.html, report.folder, target, report.Stem(), progress, paper);
         },
         parent);
     if (!saved && !saved.reason.isEmpty())
@@ -53,11 +64,12 @@ ReportWindow::ReportWindow(const Report& report, QWidget* parent)
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowTitle(LoadString(ReportWindowTitle).arg(report.Stem()));
     resize(FirstSize);
-    MakeControls();
+    auto* rows = new QVBoxLayout(this);
+    rows->setContentsMargins(12, 12, 12, 12);
+    rows->setSpacing(10);
+    MakePage();
+    MakeButtons();
     AddShortcuts();
-    m_document.ShowPage(report.html);
-    m_page->setDocument(&m_document);
-    m_page->setFont(m_document.defaultFont()); // what a zoom starts from
     m_page->setFocus();
 }
 
@@ -65,16 +77,29 @@ ReportWindow::~ReportWindow() {
     m_page->setDocument(nullptr); // it goes before the view does
 }
 
-void ReportWindow::MakeControls() {
-    auto* rows = new QVBoxLayout(this);
-    rows->setContentsMargins(12, 12, 12, 12);
-    rows->setSpacing(10);
+// The page is filled when it is seen: what stands in it before is laid out several times on the way.
+void ReportWindow::showEvent(QShowEvent* event) {
+    QDialog::showEvent(event);
+    if (m_isFilled)
+        return;
+    m_isFilled = true;
+    QTimer::singleShot(0, this, [this] { m_document.ShowPage(m_report.html); });
+}
+
+void ReportWindow::MakePage() {
     m_page = new PaperView;
-    m_page->setOpenLinks(false);
     m_page->setAccessibleName(windowTitle());
-    rows->addWidget(m_page, 1);
+    m_document.setDocumentMargin(PaperMargin);
+    m_page->setFont(m_document.defaultFont()); // what a zoom starts from
+    m_page->setDocument(&m_document);
+    auto* middle = new QHBoxLayout;
+    middle->addWidget(m_page);
+    qobject_cast<QBoxLayout*>(layout())->addLayout(middle, 1);
+}
+
+void ReportWindow::MakeButtons() {
     auto* buttons = new QHBoxLayout;
-    rows->addLayout(buttons);
+    qobject_cast<QBoxLayout*>(layout())->addLayout(buttons);
     m_state = new QLabel;
     m_state->setTextInteractionFlags(Qt::TextSelectableByMouse);
     for (const int step : {-1, 1}) {
@@ -131,7 +156,7 @@ void ReportWindow::OnSave() {
         return;
     const CString target = dialog.selectedFiles().value(0);
     m_state->clear();
-    if (SaveReportPdf(m_report, target, this))
+    if (SaveReportPdf(m_report, target, Paper(), this))
         m_state->setText(LoadString(ReportSaved).arg(QDir::toNativeSeparators(target)));
 }
 

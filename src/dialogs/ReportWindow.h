@@ -2,6 +2,7 @@
 #pragma once
 
 #include "files/ReportDocument.h"
+#include "files/ReportPages.h"
 
 #include <QDialog>
 #include <functional>
@@ -19,7 +20,7 @@ struct Report {
 };
 
 // Saves the report as a PDF file, while its progress is shown. A failure is told to the user; false then.
-bool SaveReportPdf(const Report& report, const CString& target, QWidget* parent);
+bool SaveReportPdf(const Report& report, const CString& target, const QPageLayout& paper, QWidget* parent);
 
 class ReportWindow : public QDialog {
     Q_OBJECT
@@ -30,17 +31,24 @@ public:
 
     // Prints the report; the window that is given is the one to ask questions over.
     std::function<void(const Report& report, QWidget* window)> Print;
+    // The paper of a PDF file; asked when one is saved.
+    std::function<QPageLayout()> Paper = StandardPaper;
+
+protected:
+    void showEvent(QShowEvent* event) override;
 
 private:
-    void MakeControls();
+    void MakePage();
+    void MakeButtons();
     void AddShortcuts();
     void OnSave();
     void OnPrint();
+    void Zoom(int step);
 
     Report m_report;
     ReportDocument m_document;
     QTextBrowser* m_page = nullptr; // the window owns both
     QLabel* m_state = nullptr;
-    int m_zoom = 0;
-    void Zoom(int step);
+    int m_zoom = 0; // in steps
+    bool m_isFilled = false;
 };

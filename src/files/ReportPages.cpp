@@ -10,7 +10,6 @@
 #include <QBuffer>
 #include <QFontMetricsF>
 #include <QImage>
-#include <QPageLayout>
 #include <QPainter>
 #include <QPalette>
 #include <QPdfWriter>
@@ -121,16 +120,20 @@ FileResult DrawReportPages(const QByteArray& html, const CString& baseFolder, co
     return painter.end() ? FileResult() : FileFailure(ReportNotDrawn);
 }
 
+QPageLayout StandardPaper() {
+    return QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Portrait,
+                       {MarginMillimetres, MarginMillimetres, MarginMillimetres, MarginMillimetres},
+                       QPageLayout::Millimeter);
+}
+
 FileResult WriteReportPdf(const QByteArray& html, const CString& baseFolder, const CString& target,
-                          const CString& footer, const ReportProgress& progress) {
+                          const CString& footer, const ReportProgress& progress, const QPageLayout& paper) {
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);
     {
         QPdfWriter writer(&buffer);
         writer.setResolution(LayoutDpi);
-        writer.setPageSize(QPageSize(QPageSize::A4));
-        writer.setPageMargins({MarginMillimetres, MarginMillimetres, MarginMillimetres, MarginMillimetres},
-                              QPageLayout::Millimeter);
+        writer.setPageLayout(paper);
         writer.setTitle(footer);
         const FileResult drawn = DrawReportPages(html, baseFolder, footer, writer, progress);
         if (!drawn)

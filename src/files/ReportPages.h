@@ -5,6 +5,7 @@
 #include "platform/FileResult.h"
 
 #include <QByteArray>
+#include <QPageLayout>
 #include <functional>
 
 class QPagedPaintDevice;
@@ -17,6 +18,10 @@ using ReportProgress = std::function<bool(int page, int pages)>;
 FileResult DrawReportPages(const QByteArray& html, const CString& baseFolder, const CString& footer,
                            QPagedPaintDevice& device, const ReportProgress& progress = {});
 
-// The same on A4 paper as a PDF file, which is written whole or not at all.
+// A4 with even margins.
+QPageLayout StandardPaper();
+
+// The same as a PDF file, which is written whole or not at all.
 FileResult WriteReportPdf(const QByteArray& html, const CString& baseFolder, const CString& target,
-                          const CString& footer, const ReportProgress& progress = {});
+                          const CString& footer, const ReportProgress& progress = {},
+                          const QPageLayout& paper = StandardPaper());

@@ -18,8 +18,6 @@
 
 namespace {
 
-constexpr qreal MarginMillimetres = 15;
-
 const PrintAdapter*& CurrentAdapter() {
     static const PrintAdapter desktop;
     static const PrintAdapter* adapter = &desktop;
@@ -30,8 +28,7 @@ const PrintAdapter*& CurrentAdapter() {
 class PrinterHolder : public QObject {
 public:
     PrinterHolder() : QObject(qApp), printer(QPrinter::HighResolution) {
-        printer.setPageMargins({MarginMillimetres, MarginMillimetres, MarginMillimetres, MarginMillimetres},
-                               QPageLayout::Millimeter);
+        printer.setPageLayout(StandardPaper());
     }
 
     QPrinter printer;
@@ -64,6 +61,7 @@ void ShowReport(const Report& report, QWidget* parent) {
         else
             ShowMessage(LoadString(ReportNoPrinter));
     };
+    window->Paper = [] { return PrinterOfTool().pageLayout(); };
     window->show();
 }
 
