@@ -6,6 +6,7 @@
 #include "files/ReportHtml.h"
 #include "files/RunProgram.h"
 #include "platform/TextNumbers.h"
+#include "support/FilledStandard.h"
 #include "support/TestFolder.h"
 
 #include <QBuffer>

@@ -1,9 +1,9 @@
 // What the core writes is well formed in the eyes of another program, without a warning.
-#include "files/FilledStandard.h"
 #include "files/LanguageScope.h"
 #include "files/MergeRoom.h"
 #include "files/Report.h"
 #include "files/ReportHtml.h"
+#include "support/FilledStandard.h"
 #include "support/RandomStandard.h"
 
 #include <QProcess>
