@@ -49,7 +49,7 @@ void CComboBoxExt::paintEvent(QPaintEvent*) {
     painter.drawComplexControl(QStyle::CC_ComboBox, option);
     const QRect field =
         style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this);
-    constexpr int Margins = 8;
+    constexpr int Margins = 4;
     const int picture = option.currentIcon.isNull() ? 0 : option.iconSize.width() + 4;
     option.currentText =
         option.fontMetrics.elidedText(option.currentText, Qt::ElideRight, field.width() - picture - Margins);

@@ -61,7 +61,7 @@ bool CorrectionChoices::HoldsNumber(double number) const {
 }
 
 bool CorrectionChoices::LiesBetween(double number) const {
-    const auto [low, high] = std::minmax(Number(Strings[0]), Number(Strings[1]));
+    const auto [low, high] = std::minmax({Number(Strings[0]), Number(Strings[1])});
     return number >= low && number <= high;
 }
 
