@@ -5,6 +5,7 @@
 #include "shell/AdminModuleDoc.h"
 
 #include <QCloseEvent>
+#include <QMenu>
 #include <utility>
 
 CChildFrame::CChildFrame(CAdminModuleApp& app, CAdminModuleDoc& document, QWidget* parent)
@@ -12,6 +13,9 @@ CChildFrame::CChildFrame(CAdminModuleApp& app, CAdminModuleDoc& document, QWidge
     setAttribute(Qt::WA_DeleteOnClose);
     setObjectName("DocumentWindow");
     setMinimumSize(400, 300);
+    // The window's own menu would take keys that are the program's.
+    for (QAction* action : systemMenu()->actions())
+        action->setShortcut({});
     m_document.SetFrame(this);
     UpdateTitle();
 }

@@ -32,7 +32,7 @@ CString CommandsPage() {
                    "catalogue; do not\nedit it. The test that compares it writes it anew where "
                    "`RULEWARD_WRITE_PAGES` is set.\n\n"
                    "| Menu | Command | Keys | Number |\n|---|---|---|---|\n";
-    for (const CommandRow& row : CommandTable())
+    for (const ToolCommand& row : ToolCommands())
         if (row.row != MenuRow::Separator)
             page += Line(TitleOf(row.menu), row.id);
     for (const AppCheckRow& row : AppChecks()) {

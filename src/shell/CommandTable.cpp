@@ -11,7 +11,7 @@ namespace {
 using enum MenuName;
 using enum MenuRow;
 
-constexpr CommandRow Rows[] = {
+constexpr ToolCommand Rows[] = {
     {File, Always, Command::New, 2087, 1175},
     {File, Always, Command::Learn, 1749, 1407},
     {File, Always, Command::Open, 2088, 1176},
@@ -67,13 +67,13 @@ constexpr unsigned ToolbarButtons[] = {Command::New,
 
 } // namespace
 
-std::span<const CommandRow> CommandTable() {
+std::span<const ToolCommand> ToolCommands() {
     return Rows;
 }
 
-const CommandRow* FindCommandRow(unsigned id) {
+const ToolCommand* FindToolCommand(unsigned id) {
     const auto* row = std::find_if(std::begin(Rows), std::end(Rows),
-                                   [id](const CommandRow& each) { return each.id == id && id != 0; });
+                                   [id](const ToolCommand& each) { return each.id == id && id != 0; });
     return row == std::end(Rows) ? nullptr : row;
 }
 
@@ -99,7 +99,7 @@ CString WithoutMnemonic(const CString& text) {
 }
 
 CommandText TextOfCommand(unsigned id) {
-    if (const CommandRow* row = FindCommandRow(id))
+    if (const ToolCommand* row = FindToolCommand(id))
         return CutCommandText(LoadString(row->text));
     if (const AppCheckRow* row = FindAppCheckByCommand(id))
         return CutCommandText(LoadString(row->info.GetMenuTextID()));
@@ -111,7 +111,7 @@ QList<QKeySequence> ShortcutsOf(unsigned id) {
     const CString told = TextOfCommand(id).accelerator;
     if (!told.isEmpty())
         shortcuts.append(QKeySequence::fromString(told, QKeySequence::PortableText));
-    const CommandRow* row = FindCommandRow(id);
+    const ToolCommand* row = FindToolCommand(id);
     if (row && *row->shortcut)
         shortcuts.append(QKeySequence::fromString(row->shortcut, QKeySequence::PortableText));
     return shortcuts;

@@ -49,7 +49,7 @@ enum class MenuName { File, Edit, Window, Help, None };
 // Where a row stands: a file menu without a document leaves some rows out.
 enum class MenuRow { Always, WithDocument, Separator };
 
-struct CommandRow {
+struct ToolCommand {
     MenuName menu;
     MenuRow row;
     unsigned id = 0;
@@ -60,9 +60,9 @@ struct CommandRow {
 };
 
 // Menus follow one upon the other, each in its own order.
-std::span<const CommandRow> CommandTable();
+std::span<const ToolCommand> ToolCommands();
 // The row of a command, null for one of the catalogue and for an unknown one.
-const CommandRow* FindCommandRow(unsigned id);
+const ToolCommand* FindToolCommand(unsigned id);
 
 // The buttons of the main toolbar in the order of its strip of images; 0 parts groups.
 std::span<const unsigned> MainToolbarCommands();

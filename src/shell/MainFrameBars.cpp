@@ -66,7 +66,7 @@ void CMainFrame::CreateToolBars() {
 
 void CMainFrame::CreateActions() {
     // Reachable by their keys, whichever menus stand in the bar.
-    for (const CommandRow& row : CommandTable())
+    for (const ToolCommand& row : ToolCommands())
         if (row.id != 0)
             addAction(m_app.GetRouter().ActionOf(row.id));
 

@@ -18,7 +18,7 @@ CString TitleOf(MenuRoot root) {
 }
 
 void Fill(CMenuItems& menu, CommandRouter& router, MenuName name, bool withDocument) {
-    for (const CommandRow& row : CommandTable()) {
+    for (const ToolCommand& row : ToolCommands()) {
         if (row.menu != name || (row.row == MenuRow::WithDocument && !withDocument))
             continue;
         if (row.row == MenuRow::Separator)
@@ -67,7 +67,7 @@ void CAdminModuleApp::BuildMenuSet() {
     FillChecks(GetMenu(MenuRoot::Checks), m_router, m_catalogue);
     Fill(GetMenu(MenuRoot::Window), m_router, MenuName::Window, true);
     Fill(GetMenu(MenuRoot::Help), m_router, MenuName::Help, true);
-    for (const CommandRow& row : CommandTable())
+    for (const ToolCommand& row : ToolCommands())
         if (row.id != 0)
             Dress(m_router, row.id, row.text);
     for (const auto& [type, info] : m_catalogue)

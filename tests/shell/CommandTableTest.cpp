@@ -10,9 +10,8 @@
 #include <gtest/gtest.h>
 
 TEST(CommandTable, EveryCommandHasAText) {
-    for (const CommandRow& row : CommandTable())
-        if (row.row != MenuRow::Separator)
-            EXPECT_FALSE(TextOfCommand(row.id).text.isEmpty()) << row.id;
+    for (const ToolCommand& row : ToolCommands())
+        EXPECT_EQ(TextOfCommand(row.id).text.isEmpty(), row.row == MenuRow::Separator) << row.id;
     for (const AppCheckRow& row : AppChecks())
         EXPECT_FALSE(TextOfCommand(row.info.GetCommandID()).text.isEmpty()) << row.info.GetCommandID();
     EXPECT_TRUE(TextOfCommand(32789).text.isEmpty());
@@ -22,7 +21,7 @@ TEST(CommandTable, NoTwoCommandsShareAKey) {
     for (const char* name : {"English", "German"}) {
         const Language language(name);
         QMap<QString, unsigned> owners;
-        for (const CommandRow& row : CommandTable()) {
+        for (const ToolCommand& row : ToolCommands()) {
             for (const QKeySequence& keys : ShortcutsOf(row.id)) {
                 const QString text = keys.toString(QKeySequence::PortableText);
                 EXPECT_FALSE(text.isEmpty()) << row.id;
@@ -38,7 +37,7 @@ TEST(CommandTable, NoTwoItemsOfAMenuShareAMnemonic) {
     for (const char* name : {"English", "German"}) {
         const Language language(name);
         QMap<MenuName, QSet<QChar>> taken;
-        for (const CommandRow& row : CommandTable()) {
+        for (const ToolCommand& row : ToolCommands()) {
             const QString text = TextOfCommand(row.id).text.toLower();
             const qsizetype at = text.indexOf('&');
             if (at < 0 || row.menu == MenuName::None)
@@ -68,7 +67,7 @@ TEST(CommandTable, TheToolbarHoldsTheTenCommandsOfItsStrip) {
     for (const unsigned id : MainToolbarCommands())
         if (id != 0) {
             ++buttons;
-            EXPECT_NE(FindCommandRow(id), nullptr) << id;
+            EXPECT_NE(FindToolCommand(id), nullptr) << id;
         }
     EXPECT_EQ(buttons, 10);
 }

@@ -47,13 +47,18 @@ bool PlainView::OnUpdateCommand(unsigned id, CommandState& state) {
 QByteArray StandardXml(const QByteArray& version) {
     const QByteArray attribute = version.isEmpty() ? QByteArray() : " Version=\"" + version + "\"";
     return "<Standard Unit=\"2\" AngularUnit=\"0\"" + attribute +
-           "><Check Type=\"101\" LifeStatus=\"1\"/></Standard>";
+           "><Check Type=\"101\" LifeStatus=\"0\"/></Standard>";
 }
 
 ShellRoom::ShellRoom()
     : app([](CAdminModuleApp& owner, CAdminModuleDoc& document, QWidget* parent) {
           return new PlainView(owner, document, parent);
-      }) {}
+      }) {
+    CRecentFiles files;
+    files.Load();
+    for (const CString& path : CStringArray(files.Paths()))
+        files.Remove(path);
+}
 
 ShellRoom::~ShellRoom() {
     app.ExitInstance();

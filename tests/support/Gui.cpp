@@ -1,10 +1,12 @@
 #include "support/Gui.h"
 
 #include <QAbstractButton>
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QComboBox>
 #include <QEvent>
 #include <QFileDialog>
+#include <QItemSelectionModel>
 #include <QLineEdit>
 #include <QTimer>
 #include <QWheelEvent>
@@ -161,6 +163,10 @@ void ChooseFile(QWidget& dialog, const CString& path) {
         dialog.close();
         return;
     }
+    // Typing clears the selection in the list, which would win; a text that is set does not.
+    for (const QAbstractItemView* view : dialog.findChildren<QAbstractItemView*>())
+        if (view->selectionModel())
+            view->selectionModel()->clearSelection();
     name->setText(path);
     QTest::keyClick(name, Qt::Key_Return);
 }

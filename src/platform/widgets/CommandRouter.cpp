@@ -76,12 +76,13 @@ void CommandRouter::UpdateNow() {
     m_idle.stop();
     for (auto entry = m_actions.cbegin(); entry != m_actions.cend(); ++entry) {
         CommandState state;
-        state.enabled = Find(entry.key(), state) && state.enabled;
+        const bool isKnown = Find(entry.key(), state) != nullptr;
+        state.enabled = isKnown && state.enabled;
         QAction& action = *entry.value();
         // Setting what stands already would still repaint menus and toolbars.
         if (action.isEnabled() != state.enabled)
             action.setEnabled(state.enabled);
-        if (action.isCheckable() && action.isChecked() != state.checked)
+        if (isKnown && action.isCheckable() && action.isChecked() != state.checked)
             action.setChecked(state.checked);
     }
     if (AfterUpdate)

@@ -40,7 +40,7 @@ public:
     ~CommandRouter() override;
 
     // The action of a command, made on first use. The router owns it; a command that nobody knows is
-    // disabled.
+    // disabled, and stays checked or unchecked as it was.
     QAction* ActionOf(unsigned id);
 
     // Runs a command where its state, asked afresh, is enabled. False where it is disabled or nobody's.
