@@ -7,6 +7,7 @@
 #include "platform/Text.h"
 #include "platform/widgets/CommandRouter.h"
 #include "shell/DocumentView.h"
+#include "shell/PrintStandard.h"
 
 #include <QWidget>
 #include <functional>
@@ -17,8 +18,6 @@ class CCheckPropertySheet;
 class CPageSheet;
 class CRulewardOptions;
 
-// Whether the user chooses the printer first.
-enum class PrintMode { WithDialog = 1, AtOnce = 2 };
 using PrintFunction = std::function<void(CAdminModuleDoc& document, PrintMode mode)>;
 
 class CAdminModView : public QWidget,
@@ -29,7 +28,7 @@ class CAdminModView : public QWidget,
     Q_OBJECT
 
 public:
-    // Both must outlive the view. Without `print` there is no printing.
+    // Both must outlive the view. `print` may print in the place of PrintStandard.
     CAdminModView(CAdminModuleApp& app, CAdminModuleDoc& document, QWidget* parent = nullptr,
                   PrintFunction print = {});
     ~CAdminModView() override;

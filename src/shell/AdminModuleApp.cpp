@@ -1,5 +1,7 @@
 #include "shell/AdminModuleApp.h"
 
+#include "dialogs/AboutDlg.h"
+#include "dialogs/MergeDlg.h"
 #include "platform/LanguageLibrary.h"
 #include "platform/Message.h"
 #include "platform/TextNumbers.h"
@@ -7,13 +9,13 @@
 #include "shell/AdminModuleDoc.h"
 #include "shell/ChildFrame.h"
 #include "shell/CommandTable.h"
+#include "shell/FileDialogs.h"
 #include "shell/MainFrame.h"
+#include "shell/PrintStandard.h"
 
 #include <QCoreApplication>
 #include <QDesktopServices>
 #include <QFileInfo>
-#include <QPageSetupDialog>
-#include <QPrinter>
 #include <QUrl>
 #include <algorithm>
 
@@ -60,14 +62,11 @@ void CAdminModuleApp::FlipShowAll() {
     m_router.Arm();
 }
 
-QPrinter& CAdminModuleApp::GetPrinter() {
-    if (!m_printer)
-        m_printer = std::make_unique<QPrinter>();
-    return *m_printer;
-}
-
-void CAdminModuleApp::OnFilePrintSetup() {
-    QPageSetupDialog(&GetPrinter(), m_frame.get()).exec();
+void CAdminModuleApp::OnMerge() {
+    CMergeDlg dialog(RunFolder, FileFilters(), m_frame.get());
+    dialog.OpenDocumentFile = [this](const CString& path) { OpenDocumentFile(path); };
+    dialog.ShowHelp = [this](unsigned command, unsigned topic) { ShowHelp(command, topic); };
+    dialog.DoModal();
 }
 
 void CAdminModuleApp::ShowHelp(unsigned command, unsigned topic) {
@@ -83,9 +82,11 @@ bool CAdminModuleApp::OnCommand(unsigned id) {
     switch (id) {
     case Command::New: OnFileNew(); return true;
     case Command::Open: OnFileOpenStandard(); return true;
-    case Command::PrintSetup: OnFilePrintSetup(); return true;
+    case Command::PrintSetup: SetUpPrinter(m_frame.get()); return true;
     case Command::HelpTopics: ShowHelp(0, 0); return true;
     case Command::CloseAll: CloseAllDocuments(); return true;
+    case Command::Merge: OnMerge(); return true;
+    case Command::About: CAboutDlg(m_frame.get()).exec(); return true;
     default: return false;
     }
 }
@@ -95,6 +96,8 @@ bool CAdminModuleApp::OnUpdateCommand(unsigned id, CommandState& state) {
     case Command::New:
     case Command::Open:
     case Command::PrintSetup:
+    case Command::Merge:
+    case Command::About:
     case Command::HelpTopics: return true;
     case Command::CloseAll: state.enabled = !m_documents.empty(); return true;
     default: return false;

@@ -17,7 +17,6 @@
 
 class CAdminModuleDoc;
 class CMainFrame;
-class QPrinter;
 
 class CAdminModuleApp : public CommandTarget {
 public:
@@ -64,7 +63,6 @@ public:
     CMenuItems& GetMenu(MenuRoot root) const { return *m_menus[static_cast<size_t>(root)]; }
     CMainFrame* GetMainFrame() const { return m_frame.get(); }
     CRecentFiles& GetRecentFiles() { return m_recent; }
-    QPrinter& GetPrinter(); // set up by the user, and the same for every document
 
     const std::vector<CAdminModuleDoc*>& GetDocuments() const { return m_documents; } // in order of opening
     CAdminModuleDoc* GetActiveDocument() const;                                       // or null
@@ -93,7 +91,7 @@ private:
     CAdminModuleDoc* ShowDocument(std::unique_ptr<CAdminModuleDoc> document);
     CString FolderToOpenFrom() const;
     bool SaveAllModified();
-    void OnFilePrintSetup();
+    void OnMerge();
 
     ViewMaker m_makeView;
     bool FirstOpen = true; // until a file was once chosen to be opened
@@ -109,7 +107,6 @@ private:
     bool ShowAll = false;
     std::vector<QBrush> m_brushes;
     CRecentFiles m_recent;
-    std::unique_ptr<QPrinter> m_printer;
     CommandRouter m_router;
     std::unique_ptr<CMainFrame> m_frame;
     std::vector<CAdminModuleDoc*> m_documents; // owned; deleted after their windows

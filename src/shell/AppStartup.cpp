@@ -10,7 +10,6 @@
 
 #include <QApplication>
 #include <QDir>
-#include <QPrinter>
 
 namespace {
 
@@ -67,7 +66,6 @@ int CAdminModuleApp::ExitInstance() {
     for (CAdminModuleDoc* document : std::exchange(m_documents, {}))
         delete document;
     m_menus.clear();
-    m_printer.reset();
     Settings.reset();
     m_clipboard.checks.clear();
     DeleteFolderTree(RunFolder);

@@ -57,7 +57,7 @@ void ShowReport(const Report& report, QWidget* parent) {
     auto* window = new ReportWindow(report, parent);
     window->Print = [](const Report& shown, QWidget* over) {
         if (CurrentAdapter()->HasPrinter())
-            PrintReport(shown, PrintWithDialog, over);
+            PrintReport(shown, PrintMode::WithDialog, over);
         else
             ShowMessage(LoadString(ReportNoPrinter));
     };
@@ -94,7 +94,7 @@ QPrinter& PrinterOfTool() {
     return holder->printer;
 }
 
-void PrintStandard(CStandard& standard, int mode, QWidget* parent) {
+void PrintStandard(CStandard& standard, PrintMode mode, QWidget* parent) {
     const Report report = MakeReport(standard);
     if (report.html.isEmpty())
         return;
@@ -104,9 +104,9 @@ void PrintStandard(CStandard& standard, int mode, QWidget* parent) {
         ShowReport(report, parent);
 }
 
-void PrintReport(const Report& report, int mode, QWidget* parent) {
+void PrintReport(const Report& report, PrintMode mode, QWidget* parent) {
     QPrinter& printer = PrinterOfTool();
-    if (mode == PrintWithDialog && !CurrentAdapter()->AskForPrinter(printer, parent))
+    if (mode == PrintMode::WithDialog && !CurrentAdapter()->AskForPrinter(printer, parent))
         return;
     printer.setDocName(report.Stem());
     const CString printerName = printer.printerName();

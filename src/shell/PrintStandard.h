@@ -38,14 +38,15 @@ private:
 // The printer with its paper, as the user has set it up, for the whole run. It belongs to the application.
 QPrinter& PrinterOfTool();
 
-enum PrintMode { PrintWithDialog = 1, PrintAtOnce = 2 };
+// Whether the user chooses the printer first.
+enum class PrintMode { WithDialog = 1, AtOnce = 2 };
 
 // Prints, or shows the report where there is no printer. Every failure is told to the user. The report
 // window belongs to `parent`, or to itself where that is null.
-void PrintStandard(CStandard& standard, int mode, QWidget* parent);
+void PrintStandard(CStandard& standard, PrintMode mode, QWidget* parent);
 
 // Prints a report that is made already, while its progress is shown.
-void PrintReport(const Report& report, int mode, QWidget* parent);
+void PrintReport(const Report& report, PrintMode mode, QWidget* parent);
 
 // Lets the user choose paper and margins.
 void SetUpPrinter(QWidget* parent);

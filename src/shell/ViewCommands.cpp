@@ -57,7 +57,7 @@ bool CAdminModView::OnUpdateCommand(unsigned id, CommandState& state) {
     case Command::Cut: state.enabled = isChecksPage && GetStandard().CountLiveChecks() > 0; return true;
     case Command::Paste: state.enabled = isChecksPage && m_app.IsPasteEnabled(); return true;
     case Command::Print:
-    case Command::PrintAtOnce: state.enabled = static_cast<bool>(m_print); return true;
+    case Command::PrintAtOnce: return true;
     case Command::ShowAllChecks:
         state.enabled = isChecksPage;
         state.checked = m_app.IsShowingAll();
@@ -110,8 +110,6 @@ void CAdminModView::StepHistory(bool isUndo) {
 }
 
 void CAdminModView::Print(PrintMode mode) {
-    if (!m_print)
-        return;
     CommitPending();
     m_print(m_document, mode);
 }

@@ -60,7 +60,7 @@ protected:
     // The report window, which comes where there is no printer.
     ReportWindow* Show() {
         adapter.hasPrinter = false;
-        PrintStandard(standard, PrintWithDialog, nullptr);
+        PrintStandard(standard, PrintMode::WithDialog, nullptr);
         ReportWindow* window = Shown();
         if (window)
             Gui::Show(*window);
@@ -81,7 +81,7 @@ protected:
 
 TEST_F(PrintStandardTest, Print_AtOnceAsksNothing) {
     FillStandard(standard);
-    PrintStandard(standard, PrintAtOnce, nullptr);
+    PrintStandard(standard, PrintMode::AtOnce, nullptr);
     EXPECT_TRUE(IsPrinted());
     EXPECT_EQ(adapter.asked, 0);
     EXPECT_EQ(Shown(), nullptr);
@@ -89,14 +89,14 @@ TEST_F(PrintStandardTest, Print_AtOnceAsksNothing) {
 }
 
 TEST_F(PrintStandardTest, Print_WithTheDialogAsksFirst) {
-    PrintStandard(standard, PrintWithDialog, nullptr);
+    PrintStandard(standard, PrintMode::WithDialog, nullptr);
     EXPECT_EQ(adapter.asked, 1);
     EXPECT_TRUE(IsPrinted());
 }
 
 TEST_F(PrintStandardTest, Print_CancelPrintsNothing) {
     adapter.isAccepted = false;
-    PrintStandard(standard, PrintWithDialog, nullptr);
+    PrintStandard(standard, PrintMode::WithDialog, nullptr);
     EXPECT_EQ(adapter.asked, 1);
     EXPECT_FALSE(IsPrinted());
     EXPECT_EQ(messages.texts, CStringArray());
@@ -104,7 +104,7 @@ TEST_F(PrintStandardTest, Print_CancelPrintsNothing) {
 
 TEST_F(PrintStandardTest, Print_AFailureNamesPrinterAndReason) {
     printer.setOutputFileName(folder.Path("missing/printed.pdf"));
-    PrintStandard(standard, PrintAtOnce, nullptr);
+    PrintStandard(standard, PrintMode::AtOnce, nullptr);
     ASSERT_EQ(messages.texts.size(), 1);
     EXPECT_TRUE(messages.texts[0].contains(LoadString(ReportNotDrawn)));
 }
@@ -124,24 +124,24 @@ TEST_F(PrintStandardTest, Print_WithoutPrinterTheReportIsShown) {
 }
 
 TEST_F(PrintStandardTest, Print_AStandardWithoutPicturesHasAnEmptyFolderOfThem) {
-    PrintStandard(standard, PrintAtOnce, nullptr);
+    PrintStandard(standard, PrintMode::AtOnce, nullptr);
     EXPECT_EQ(folder.Names("tmp"), (CStringArray{"Plates.xml", "Standard.xsl", "resources"}));
     EXPECT_EQ(folder.Names("tmp/resources"), CStringArray());
 }
 
 TEST_F(PrintStandardTest, Print_StandardsOfOneStemShareAFile) {
-    PrintStandard(standard, PrintAtOnce, nullptr);
+    PrintStandard(standard, PrintMode::AtOnce, nullptr);
     CStandard other;
     FillStandard(other);
     other.Name = "/elsewhere/Plates.kvstd";
-    PrintStandard(other, PrintAtOnce, nullptr);
+    PrintStandard(other, PrintMode::AtOnce, nullptr);
     EXPECT_EQ(folder.Names("tmp").filter(".xml"), CStringArray{"Plates.xml"});
     EXPECT_TRUE(folder.Get("tmp/Plates.xml").contains("/elsewhere/"));
 }
 
 TEST_F(PrintStandardTest, Print_AFolderThatCannotBeMadeIsToldAndTheReportPrinted) {
     folder.Put("tmp/resources", "a file in the way");
-    PrintStandard(standard, PrintAtOnce, nullptr);
+    PrintStandard(standard, PrintMode::AtOnce, nullptr);
     EXPECT_TRUE(IsPrinted());
     ASSERT_EQ(messages.texts.size(), 1);
     EXPECT_TRUE(messages.texts[0].startsWith(LoadString(1917)));
@@ -150,7 +150,7 @@ TEST_F(PrintStandardTest, Print_AFolderThatCannotBeMadeIsToldAndTheReportPrinted
 
 TEST_F(PrintStandardTest, Print_AReportThatCannotBeWrittenIsToldByName) {
     QDir(folder.Path("tmp")).mkdir("Plates.xml"); // a folder in the way of the file
-    PrintStandard(standard, PrintAtOnce, nullptr);
+    PrintStandard(standard, PrintMode::AtOnce, nullptr);
     EXPECT_FALSE(IsPrinted());
     ASSERT_EQ(messages.texts.size(), 1);
     EXPECT_TRUE(messages.texts[0].contains(folder.Path("tmp/Plates.xml")));

@@ -1,0 +1,193 @@
+// Plays the tool's main job without a screen, as a user would do it with mouse and keys, and leaves what came
+// of it to be looked at: the standard, its report and a picture of each step. Fails where the standard that
+// is opened again is not what was entered.
+#include "platform/widgets/Look.h"
+#include "platform/widgets/MessageBoxes.h"
+#include "shell/PrintStandard.h"
+#include "support/Gui.h"
+#include "support/GuiTool.h"
+#include "support/StandardText.h"
+#include "tour/Steps.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+#include <cstdio>
+
+namespace {
+
+constexpr MQC_CheckType_e DraftingStandard = 101, Spelling = 203, OverlappingDimensions = 406,
+                          OverlappingViews = 307, MateErrors = 602;
+constexpr unsigned DraftingStandards = 1578; // parameter
+constexpr int IsoBox = 1007, DinBox = 1009;
+constexpr int Low = 0, High = 2, Critical = 3;
+constexpr int LengthCombo = 1280, AddButton = 1008, OkButton = 1;
+
+class Tour {
+public:
+    Tour(const CString& outFolder, const CString& samplesFolder)
+        : m_out(outFolder), m_samples(samplesFolder), m_steps(outFolder) {}
+
+    bool Play() {
+        Start();
+        AddChecks();
+        EnterValues();
+        UndoAndRedo();
+        ChangeUnits();
+        Save();
+        OpenAgain();
+        MergeWithSample();
+        ShowSummary();
+        PrintReport();
+        return m_steps.AllHeld();
+    }
+
+private:
+    CString Out(const CString& name) const { return QDir(m_out).filePath(name); }
+    void Shoot(const CString& name, const CString& says) { m_steps.Shoot(m_tool.Picture(), name, says); }
+
+    void Start() {
+        m_steps.Expect(m_tool.Standard().CountLiveChecks() == 0, "the tool starts with an empty standard");
+        Shoot("start", "A new, empty standard; the catalogue of checks at the left.");
+    }
+
+    void AddChecks() {
+        for (const MQC_CheckType_e type :
+             {DraftingStandard, Spelling, OverlappingDimensions, OverlappingViews, MateErrors})
+            m_tool.PressCheck(type);
+        m_tool.Do(Command::ShowAllChecks);
+        m_steps.Expect(m_tool.Standard().CountLiveChecks() == 5, "five checks of five groups are added");
+        Shoot("checks-added", "Checks of five groups, each with its pane.");
+    }
+
+    void EnterValues() {
+        Gui::Click(*m_tool.Control<QWidget>(DraftingStandard, IsoBox));
+        Gui::Click(*m_tool.Control<QWidget>(DraftingStandard, DinBox));
+        m_tool.SetCriticality(DraftingStandard, High);
+        m_tool.SetCriticality(Spelling, Low);
+        m_tool.SetCriticality(MateErrors, Critical);
+        CCheck* check = nullptr;
+        m_tool.Standard().FindLiveByType(DraftingStandard, check);
+        const CParameter<long>* allowed = check ? check->GetLongParameter(DraftingStandards) : nullptr;
+        m_steps.Expect(allowed && allowed->Operator == OpOneOf && allowed->Values.Count == 2,
+                       "two drafting standards are allowed");
+        Shoot("values-entered", "ISO and DIN are allowed, and each check has its criticality.");
+    }
+
+    void UndoAndRedo() {
+        m_tool.Do(Command::Undo);
+        m_steps.Expect(CriticalityOf(MateErrors) != Critical, "the last step is undone");
+        Shoot("undone", "The last criticality is undone.");
+        m_tool.Do(Command::Redo);
+        m_steps.Expect(CriticalityOf(MateErrors) == Critical, "the step is done again");
+    }
+
+    void ChangeUnits() {
+        m_tool.ShowPage(OptionsPage);
+        Gui::ChooseRow(*Gui::FindNumber(m_tool.View(), LengthCombo), 3);
+        Shoot("units", "The options: the standard's units are changed.");
+        m_tool.ShowPage(ChecksPage);
+    }
+
+    void Save() {
+        m_steps.Expect(m_tool.SaveAs(Out("Tour.kvstd")), "the standard is saved");
+        m_entered = LiveTextOf(m_tool.Standard()); // with the header that saving has stamped
+        m_steps.Expect(!m_tool.Document().IsModified(), "a saved standard is not modified");
+        Shoot("saved", "Saved as Tour.kvstd; the title shows its name.");
+    }
+
+    void OpenAgain() {
+        m_steps.Expect(m_tool.Close(), "the document closes");
+        m_steps.Expect(m_tool.Open(Out("Tour.kvstd")), "the standard opens again");
+        m_steps.Expect(LiveTextOf(m_tool.Standard()) == m_entered,
+                       "the standard that was opened again is what was entered");
+        Shoot("opened-again", "Closed and opened again: all is as entered.");
+    }
+
+    void MergeWithSample() {
+        const Gui::Answer merge([this](QWidget& dialog) { WorkMergeDialog(dialog); });
+        m_tool.Do(Command::Merge);
+        m_steps.Expect(QFile::exists(Out("Merged.kvstd")), "the merge is saved");
+        m_steps.Expect(m_tool.Document().GetUserPath() == Out("Merged.kvstd"), "the merge is opened");
+        m_steps.Expect(m_tool.Standard().CountLiveChecks() > 5, "the merge holds the checks of both");
+        Shoot("merged", "The merge of both, opened as a document of its own.");
+    }
+
+    // Adds both files, the tour's own last so that its values win.
+    void WorkMergeDialog(QWidget& dialog) {
+        for (const CString& file : {m_samples + "/Metric drawings to ISO.kvstd", Out("Tour.kvstd")}) {
+            const Gui::Answer choose([&file](QWidget& picker) { Gui::ChooseFile(picker, file); });
+            Gui::Click(*Gui::FindNumber(dialog, AddButton));
+        }
+        m_steps.Shoot(dialog.grab().toImage(), "merge",
+                      "The merge dialog with two standards; the later one wins.");
+        const Gui::Answer target([this](QWidget& picker) { Gui::ChooseFile(picker, Out("Merged.kvstd")); });
+        Gui::Click(*Gui::FindNumber(dialog, OkButton));
+    }
+
+    void ShowSummary() {
+        m_tool.ShowPage(SummaryPage);
+        Shoot("summary", "The summary: every requirement of the merged standard in one table.");
+    }
+
+    void PrintReport() {
+        m_tool.Do(Command::PrintAtOnce);
+        QWidget* window = nullptr;
+        for (QWidget* candidate : QApplication::topLevelWidgets())
+            if (candidate->inherits("ReportWindow") && candidate->isVisible())
+                window = candidate;
+        m_steps.Expect(window != nullptr, "the report is shown, as there is no printer");
+        if (!window)
+            return;
+        m_steps.Shoot(window->grab().toImage(), "report", "The report, shown where there is no printer.");
+        const Gui::Answer target([this](QWidget& picker) { Gui::ChooseFile(picker, Out("Report.pdf")); });
+        Gui::Key(*window, Qt::Key_S, Qt::ControlModifier);
+        for (int wait = 0; wait < 500 && !QFile::exists(Out("Report.pdf")); ++wait)
+            QTest::qWait(20);
+        m_steps.Expect(QFile::exists(Out("Report.pdf")), "the report is saved as PDF");
+        window->close();
+        Gui::Settle();
+    }
+
+    unsigned CriticalityOf(MQC_CheckType_e type) {
+        CCheck* check = nullptr;
+        m_tool.Standard().FindLiveByType(type, check);
+        return check ? check->Criticality : 99;
+    }
+
+    CString m_out;
+    CString m_samples;
+    TourSteps m_steps;
+    GuiTool m_tool;
+    CString m_entered;
+};
+
+// Without this the desktop's printers would be asked for, and the tour would end on paper.
+class NoPrinter : public PrintAdapter {
+public:
+    bool HasPrinter() const override { return false; }
+};
+
+} // namespace
+
+int main(int argc, char** argv) {
+    if (argc != 3) {
+        std::fprintf(stderr, "usage: tour OUT-FOLDER SAMPLES-FOLDER\n");
+        return 2;
+    }
+    QTemporaryDir home;
+    for (const char* name : {"HOME", "TMPDIR", "XDG_CONFIG_HOME", "XDG_RUNTIME_DIR"})
+        qputenv(name, home.path().toUtf8());
+    QApplication application(argc, argv);
+    const Gui::Setup setup;
+    Look::ApplyTo(application);
+    const MessageScope messages(ShowMessageBox);
+    const NoPrinter adapter;
+    const PrintAdapterScope printing(adapter);
+    QDir().mkpath(argv[1]);
+    Tour tour(QDir(argv[1]).absolutePath(), QDir(argv[2]).absolutePath());
+    const bool isWell = tour.Play();
+    return isWell ? 0 : 1;
+}
