@@ -39,6 +39,14 @@ class LeftBehind : public ::testing::EmptyTestEventListener {
     }
 };
 
+// What the screenless platform says of each window is no news.
+QtMessageHandler previousHandler = nullptr;
+
+void WithoutNoise(QtMsgType type, const QMessageLogContext& context, const QString& text) {
+    if (!text.startsWith("This plugin does not support") && previousHandler)
+        previousHandler(type, context, text);
+}
+
 CString WithoutMnemonic(CString text) {
     return text.remove('&');
 }
@@ -46,6 +54,7 @@ CString WithoutMnemonic(CString text) {
 } // namespace
 
 Setup::Setup() {
+    previousHandler = qInstallMessageHandler(WithoutNoise);
     QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     QApplication::setFont(QFont("DejaVu Sans", 9));
     qApp->installEventFilter(this);

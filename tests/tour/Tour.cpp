@@ -95,7 +95,8 @@ private:
         m_steps.Expect(m_tool.SaveAs(Out("Tour.kvstd")), "the standard is saved");
         m_entered = LiveTextOf(m_tool.Standard()); // with the header that saving has stamped
         m_steps.Expect(!m_tool.Document().IsModified(), "a saved standard is not modified");
-        Shoot("saved", "Saved as Tour.kvstd; the title shows its name.");
+        m_steps.Tell("Tour.kvstd", "The saved standard.");
+        Shoot("saved", "Saved as Tour.kvstd; nothing is left to be saved.");
     }
 
     void OpenAgain() {
@@ -110,6 +111,7 @@ private:
         const Gui::Answer merge([this](QWidget& dialog) { WorkMergeDialog(dialog); });
         m_tool.Do(Command::Merge);
         m_steps.Expect(QFile::exists(Out("Merged.kvstd")), "the merge is saved");
+        m_steps.Tell("Merged.kvstd", "The merged standard.");
         m_steps.Expect(m_tool.Document().GetUserPath() == Out("Merged.kvstd"), "the merge is opened");
         m_steps.Expect(m_tool.Standard().CountLiveChecks() > 5, "the merge holds the checks of both");
         Shoot("merged", "The merge of both, opened as a document of its own.");
@@ -147,6 +149,7 @@ private:
         for (int wait = 0; wait < 500 && !QFile::exists(Out("Report.pdf")); ++wait)
             QTest::qWait(20);
         m_steps.Expect(QFile::exists(Out("Report.pdf")), "the report is saved as PDF");
+        m_steps.Tell("Report.pdf", "The same report on paper, saved from the window.");
         window->close();
         Gui::Settle();
     }
@@ -188,6 +191,8 @@ int main(int argc, char** argv) {
     const PrintAdapterScope printing(adapter);
     QDir().mkpath(argv[1]);
     Tour tour(QDir(argv[1]).absolutePath(), QDir(argv[2]).absolutePath());
-    const bool isWell = tour.Play();
-    return isWell ? 0 : 1;
+    if (!tour.Play())
+        return 1;
+    std::printf("All is as it should be.\n");
+    return 0;
 }
