@@ -170,6 +170,11 @@ bool DrawControl(QStyle::ControlElement element, const StylePart& part) {
         return DrawPushButtonLabel(part);
     if (element == QStyle::CE_ToolButtonLabel)
         return DrawToolButtonLabel(part);
+    // Without this a flat button would not show that the pointer is over it.
+    if (element == QStyle::CE_PushButtonBevel && IsFlat(part)) {
+        DrawPushButton(part);
+        return true;
+    }
     if (element == QStyle::CE_PushButton && part.As<QStyleOptionButton>()) {
         part.style.drawControl(QStyle::CE_PushButtonBevel, &part.option, &part.painter, part.widget);
         part.style.drawControl(QStyle::CE_PushButtonLabel, &part.option, &part.painter, part.widget);
