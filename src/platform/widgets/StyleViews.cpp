@@ -84,7 +84,8 @@ bool DrawSectionLabel(const StylePart& part) {
     part.painter.save();
     part.painter.setFont(StylePaint::Bold(font));
     part.painter.setPen(QColor(part.IsEnabled() ? Look::Heading : StyleTone::DisabledText));
-    const QRect rect = section->rect.adjusted(3, 0, -3, 0);
+    // From where the texts of the rows below begin.
+    const QRect rect = section->rect.adjusted(-1, 0, 1, 0);
     const QString text = part.painter.fontMetrics().elidedText(section->text, Qt::ElideRight, rect.width());
     part.painter.drawText(rect, int(section->textAlignment) | Qt::TextSingleLine, text);
     part.painter.restore();
