@@ -8,11 +8,18 @@
 #include <QMenu>
 #include <utility>
 
+namespace {
+
+constexpr unsigned DocumentIcon = 129;
+
+} // namespace
+
 CChildFrame::CChildFrame(CAdminModuleApp& app, CAdminModuleDoc& document, QWidget* parent)
     : QMdiSubWindow(parent), m_app(app), m_document(document) {
     setAttribute(Qt::WA_DeleteOnClose);
     setObjectName("DocumentWindow");
     setMinimumSize(400, 300);
+    setWindowIcon(QIcon(Look::IconPixmapOf(DocumentIcon, *this)));
     // The window's own menu would take keys that are the program's.
     for (QAction* action : systemMenu()->actions())
         action->setShortcut({});

@@ -48,7 +48,7 @@ QIcon TabIcon(unsigned id) {
 
 CTabToolbar::CTabToolbar(CAdminModuleApp& app, QWidget* parent)
     : QWidget(parent), m_app(app), m_buttonWidth(WidestText(app.GetCatalogue(), fontMetrics()) + AroundText),
-      m_tabs(new QTabBar(this)), m_heading(new QLabel(this)), m_area(new QScrollArea(this)) {
+      m_tabs(new CTabCtrlEx(this)), m_heading(new QLabel(this)), m_area(new QScrollArea(this)) {
     setObjectName("CatalogueBar");
     setAccessibleName(WithoutMnemonic(LoadString(2109)));
     MakeTabs();

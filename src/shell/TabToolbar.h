@@ -14,6 +14,18 @@ class CatalogueButton;
 class QLabel;
 class QScrollArea;
 
+// The tabs of the groups: images only, all of one size.
+class CTabCtrlEx : public QTabBar {
+    Q_OBJECT
+
+public:
+    using QTabBar::QTabBar;
+
+protected:
+    QSize tabSizeHint(int) const override { return {34, 28}; }
+    QSize minimumTabSizeHint(int index) const override { return tabSizeHint(index); }
+};
+
 class CTabToolbar : public QWidget {
     Q_OBJECT
 
@@ -44,7 +56,7 @@ private:
 
     CAdminModuleApp& m_app;
     int m_buttonWidth;
-    QTabBar* m_tabs;
+    CTabCtrlEx* m_tabs;
     QLabel* m_heading;
     QScrollArea* m_area;
     std::vector<CatalogueButton*> m_buttons;

@@ -111,6 +111,11 @@ TEST_F(CatalogueBar, TheKeyboardReachesAndPressesEveryButton) {
     EXPECT_TRUE(Button(0).hasFocus());
 }
 
+TEST_F(CatalogueBar, AllTabsAreInSight) {
+    for (int tab = 0; tab < 7; ++tab)
+        EXPECT_TRUE(Bar().rect().contains(Bar().GetTabs().tabRect(tab).translated(Bar().GetTabs().pos())));
+}
+
 TEST_F(CatalogueBar, NoTextIsCut) {
     EXPECT_GE(Bar().GetButtonWidth(), 240);
     for (unsigned group = 0; group < 7; ++group) {

@@ -289,3 +289,24 @@ TEST_F(MainFrame, HelpTellsThatThereIsNoPageYet) {
     ASSERT_EQ(messages.texts.size(), 1);
     EXPECT_FALSE(messages.texts[0].isEmpty());
 }
+
+TEST_F(MainFrame, AboutAndMergeOpenTheirDialogs) {
+    for (const unsigned id : {Command::About, Command::Merge}) {
+        CString kind;
+        Gui::Answer answer([&](QWidget& dialog) {
+            kind = dialog.metaObject()->className();
+            dialog.close();
+        });
+        Send(id);
+        EXPECT_TRUE(answer.WasAnswered());
+        EXPECT_EQ(kind, id == Command::About ? "CAboutDlg" : "CMergeDlg");
+    }
+    EXPECT_FALSE(Action(Command::WelcomePage).isEnabled());
+    EXPECT_FALSE(Action(Command::Learn).isEnabled());
+}
+
+TEST_F(MainFrame, PrintSetUpAsksForThePaper) {
+    Gui::Answer answer([](QWidget& dialog) { dialog.close(); });
+    Send(Command::PrintSetup);
+    EXPECT_TRUE(answer.WasAnswered());
+}
