@@ -26,6 +26,11 @@ std::vector<QWidget*> TabStopsOf(QWidget& pane) {
     return stops;
 }
 
+QWidget* LastTabStopOf(QWidget& pane) {
+    const std::vector<QWidget*> stops = TabStopsOf(pane);
+    return stops.empty() ? &pane : stops.back();
+}
+
 // Whether Page keys are the control's own: it has pages itself.
 bool HasPages(const QObject* control) {
     return qobject_cast<const QAbstractItemView*>(control) || qobject_cast<const QPlainTextEdit*>(control) ||
@@ -59,12 +64,16 @@ void CPageDialog::JoinTabOrder(CExtDialog& pane) {
         if (other == &pane)
             break;
         if (other && other->HasWindow())
-            before = other;
+            before = LastTabStopOf(*other);
     }
-    // A pane goes with all that is in it.
-    setTabOrder(before, &pane);
-    for (QWidget* stop : TabStopsOf(pane))
+    const std::vector<QWidget*> stops = TabStopsOf(pane);
+    setTabOrder(before, &pane); // a click on the pane itself gives it the keyboard
+    before = &pane;
+    for (QWidget* stop : stops) {
+        setTabOrder(before, stop);
         stop->installEventFilter(this);
+        before = stop;
+    }
 }
 
 bool CPageDialog::eventFilter(QObject* object, QEvent* event) {

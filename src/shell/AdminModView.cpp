@@ -35,10 +35,6 @@ CAdminModView::CAdminModView(CAdminModuleApp& app, CAdminModuleDoc& document, QW
     : QWidget(parent), m_app(app), m_document(document), m_print(std::move(print)),
       m_sheet(new CCheckPropertySheet(this)), m_checks(new CPageDialog(*this)), m_summary(new CPageSheet),
       m_options(new CRulewardOptions(*this)) {
-    if (!m_print)
-        m_print = [this](CAdminModuleDoc& printed, PrintMode mode) {
-            PrintStandard(printed.GetStandard(), mode, window());
-        };
     if (liveViews++ == 0)
         TellActiveUnit(app);
     m_sheet->AddPage(*m_checks, LoadString(PageChecksTab), Qt::Key_F5,

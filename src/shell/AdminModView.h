@@ -18,7 +18,8 @@ class CCheckPropertySheet;
 class CPageSheet;
 class CRulewardOptions;
 
-using PrintFunction = std::function<void(CAdminModuleDoc& document, PrintMode mode)>;
+// As PrintStandard.
+using PrintFunction = std::function<void(CStandard& standard, PrintMode mode, QWidget* parent)>;
 
 class CAdminModView : public QWidget,
                       public DocumentView,
@@ -28,9 +29,9 @@ class CAdminModView : public QWidget,
     Q_OBJECT
 
 public:
-    // Both must outlive the view. `print` may print in the place of PrintStandard.
+    // Both must outlive the view.
     CAdminModView(CAdminModuleApp& app, CAdminModuleDoc& document, QWidget* parent = nullptr,
-                  PrintFunction print = {});
+                  PrintFunction print = PrintStandard);
     ~CAdminModView() override;
 
     // Of the shell.

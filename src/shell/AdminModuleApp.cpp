@@ -26,6 +26,7 @@ CAdminModuleApp::CAdminModuleApp(ViewMaker makeView)
     for (const QRgb color : Look::PaletteColors)
         m_brushes.emplace_back(QColor(color));
     m_brushes.emplace_back(Qt::NoBrush);
+    qApp->installEventFilter(&m_wheelGuard);
 }
 
 CAdminModuleApp::~CAdminModuleApp() {

@@ -1,6 +1,7 @@
 // The application: what exists once in a run of the tool, and the commands that need no document.
 #pragma once
 
+#include "editing/WheelGuard.h"
 #include "model/Catalogue.h"
 #include "platform/Settings.h"
 #include "platform/Text.h"
@@ -108,6 +109,7 @@ private:
     std::vector<QBrush> m_brushes;
     CRecentFiles m_recent;
     CommandRouter m_router;
+    WheelGuard m_wheelGuard; // in the whole program
     std::unique_ptr<CMainFrame> m_frame;
     std::vector<CAdminModuleDoc*> m_documents; // owned; deleted after their windows
     int m_newCount = 0;

@@ -111,5 +111,5 @@ void CAdminModView::StepHistory(bool isUndo) {
 
 void CAdminModView::Print(PrintMode mode) {
     CommitPending();
-    m_print(m_document, mode);
+    m_print(GetStandard(), mode, this);
 }

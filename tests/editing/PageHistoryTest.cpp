@@ -1,6 +1,7 @@
 // Undo and redo on the page.
 #include "editing/PageRoom.h"
 
+#include <QComboBox>
 #include <random>
 
 namespace {
@@ -109,9 +110,9 @@ TEST_F(PageHistory, RandomWorkKeepsPageAndStandardInAgreement) {
                     page->ToggleSelection(Position(type));
                 break;
             case 7:
-                if (CExtDialog& pane = Pane(type); Position(type) >= 0) {
-                    pane.Criticality = static_cast<unsigned>(random() % 4);
-                    pane.OnCriticalityChanged();
+                if (auto* combo = Pane(type).GetDlgItem<QComboBox>(1249); combo && Position(type) >= 0) {
+                    combo->setCurrentIndex(static_cast<int>(random() % 4));
+                    Q_EMIT combo->activated(combo->currentIndex());
                 }
                 break;
             }

@@ -5,11 +5,13 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QScrollBar>
+#include <QWheelEvent>
+#include <QWindow>
 #include <QtTest>
 
 namespace {
 
-constexpr MQC_CheckType_e References = 107, Spelling = 203, Datum = 301, Features = 701;
+constexpr MQC_CheckType_e Arrowheads = 102, References = 107, Datum = 301, Features = 701;
 
 class PageSelection : public PageRoom {
 protected:
@@ -35,6 +37,15 @@ protected:
             if (focus && (&Pane(type) == focus || Pane(type).isAncestorOf(focus)))
                 return type;
         return 0;
+    }
+    // As from the window system: only such a turn goes on to the parents of what is under the pointer.
+    void TurnWheelOver(QWidget& control) {
+        const QPointF place = control.mapTo(&window, control.rect().center());
+        QWheelEvent turn(place, window.mapToGlobal(place), {}, {0, -120}, Qt::NoButton, Qt::NoModifier,
+                         Qt::NoScrollPhase, false);
+        QSpontaneKeyEvent::setSpontaneous(&turn);
+        qApp->notify(window.windowHandle(), &turn);
+        Gui::Settle();
     }
     using Types = std::vector<MQC_CheckType_e>;
 };
@@ -97,11 +108,14 @@ TEST_F(PageSelection, APlainClickEndsASelectionOfSeveral) {
 }
 
 TEST_F(PageSelection, WhatThePaneHasNotWrittenYetIsCommitted) {
-    Fill();
-    ClickOn(Datum);
-    Pane(Datum).Criticality = 3;
+    Add({Datum, Arrowheads});
+    Pane(Arrowheads).Criticality = 3;
+    page->SelectPane(Position(Datum));
     page->CommitPending();
-    EXPECT_EQ(Live(Datum)->Criticality, 3u);
+    EXPECT_EQ(Live(Arrowheads)->Criticality, 1u) << "only the selected pane is asked";
+    page->SelectPane(Position(Arrowheads));
+    page->CommitPending();
+    EXPECT_EQ(Live(Arrowheads)->Criticality, 3u);
 }
 
 TEST_F(PageSelection, TabGoesFromPaneToPaneInTheOrderOfTheCatalogue) {
@@ -171,7 +185,7 @@ TEST_F(PageSelection, TheWheelOverAnUnfocusedBoxOfChoicesScrollsThePage) {
     page->setFocus();
     page->verticalScrollBar()->setValue(0);
     const int row = Criticality(101).currentIndex();
-    Gui::Wheel(Criticality(101), -120);
+    TurnWheelOver(Criticality(101));
     EXPECT_EQ(Criticality(101).currentIndex(), row);
     EXPECT_EQ(page->verticalScrollBar()->value(), 10);
 }

@@ -4,6 +4,7 @@
 #include "platform/LanguageLibrary.h"
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QClipboard>
 #include <QLineEdit>
 
@@ -11,6 +12,7 @@ namespace {
 
 constexpr unsigned AddDrafting = 32771, AddReferences = 32775, AddDatum = 32778, AddFeatures = 32893;
 constexpr MQC_CheckType_e Drafting = 101, References = 107, Datum = 301, Features = 701;
+constexpr int OwnStandard = 1020, NameOfStandard = 1315; // controls
 constexpr unsigned AskToReplace = 1937;
 
 class Clipboard : public ViewRoom {
@@ -88,9 +90,9 @@ TEST_F(Clipboard, AFieldOfTextKeepsItsOwnClipboard) {
     Send(AddReferences);
     Send(Command::Copy);
     Send(AddDrafting);
-    auto* field = Pane(Drafting).findChild<QLineEdit*>();
+    auto* field = Pane(Drafting).GetDlgItem<QLineEdit>(NameOfStandard);
     ASSERT_NE(field, nullptr);
-    field->setEnabled(true);
+    Gui::Click(*Pane(Drafting).GetDlgItem<QCheckBox>(OwnStandard));
     Gui::Focus(*field);
     field->setText("Letters");
     field->selectAll();

@@ -4,6 +4,7 @@
 #include "editing/CheckPropertySheet.h"
 #include "editing/PageDialog.h"
 #include "editing/RulewardOptions.h"
+#include "platform/Message.h"
 #include "shell/AdminModView.h"
 #include "shell/AdminModuleApp.h"
 #include "shell/AdminModuleDoc.h"
@@ -14,7 +15,7 @@
 #include "support/Gui.h"
 #include "support/TestFolder.h"
 
-#include "platform/Message.h"
+#include <QComboBox>
 #include <gtest/gtest.h>
 
 class ViewRoom : public ::testing::Test {
@@ -25,9 +26,10 @@ protected:
               return buttons == MessageButtons::SaveDiscardCancel ? MessageAnswer::Discard : answer;
           }),
           app([this](CAdminModuleApp& owner, CAdminModuleDoc& document, QWidget* parent) {
-              return new CAdminModView(
-                  owner, document, parent,
-                  [this](CAdminModuleDoc& printed, PrintMode mode) { prints.emplace_back(&printed, mode); });
+              return new CAdminModView(owner, document, parent,
+                                       [this](CStandard& printed, PrintMode mode, QWidget*) {
+                                           prints.emplace_back(&printed, mode);
+                                       });
           }) {}
     ~ViewRoom() override { app.ExitInstance(); }
 
@@ -67,15 +69,16 @@ protected:
         app.OnFileNew();
         Gui::Settle();
     }
-    void SetCriticality(MQC_CheckType_e type, unsigned criticality) {
-        Pane(type).Criticality = criticality;
-        Pane(type).OnCriticalityChanged();
-        Pane(type).LoadCheck(*Live(type));
+    void SetCriticality(MQC_CheckType_e type, int row) {
+        auto& combo = *Pane(type).GetDlgItem<QComboBox>(CExtDialog::CriticalityControl);
+        combo.setCurrentIndex(row);
+        Q_EMIT combo.activated(row);
+        Gui::Settle();
     }
 
     CStringArray told;
     MessageAnswer answer = MessageAnswer::Yes;
-    std::vector<std::pair<CAdminModuleDoc*, PrintMode>> prints;
+    std::vector<std::pair<CStandard*, PrintMode>> prints;
     MessageScope messages;
     CAdminModuleApp app;
 };

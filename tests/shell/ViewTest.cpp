@@ -8,22 +8,23 @@
 
 namespace {
 
-constexpr unsigned AddReferences = 32775, AddNoteFont = 32896, AddDatum = 32778, AddFeatures = 32893;
-constexpr MQC_CheckType_e References = 107, NoteFont = 109, Datum = 301, Features = 701;
+constexpr unsigned AddArrowheads = 32772, AddReferences = 32775, AddNoteFont = 32896, AddDatum = 32778,
+                   AddFeatures = 32893;
+constexpr MQC_CheckType_e Arrowheads = 102, References = 107, NoteFont = 109, Datum = 301, Features = 701;
 constexpr unsigned UnknownInRange = 32800, NothingToDo = 32859;
 
-using View = ViewRoom;
+using ViewCommands = ViewRoom;
 
 } // namespace
 
-TEST_F(View, ANewDocumentShowsAnEmptyPageUnderItsTitle) {
+TEST_F(ViewCommands, ANewDocumentShowsAnEmptyPageUnderItsTitle) {
     EXPECT_EQ(View().GetSheet().GetActivePage(), ChecksPage);
     EXPECT_EQ(Standard().Name, Document().GetTitle());
     EXPECT_TRUE(Page().GetTypePositions().empty());
     EXPECT_TRUE(Page().hasFocus());
 }
 
-TEST_F(View, ACommandOfTheCatalogueTwiceAddsACheckAndTakesItAway) {
+TEST_F(ViewCommands, ACommandOfTheCatalogueTwiceAddsACheckAndTakesItAway) {
     EXPECT_TRUE(Send(AddReferences));
     EXPECT_NE(Live(References), nullptr);
     EXPECT_TRUE(app.GetRouter().ActionOf(AddReferences)->isCheckable() == false ||
@@ -34,7 +35,7 @@ TEST_F(View, ACommandOfTheCatalogueTwiceAddsACheckAndTakesItAway) {
     EXPECT_EQ(Position(References), -1);
 }
 
-TEST_F(View, UndoBringsARemovedCheckBackToItsOldPlace) {
+TEST_F(ViewCommands, UndoBringsARemovedCheckBackToItsOldPlace) {
     Send(AddReferences);
     Send(AddDatum);
     Send(AddFeatures);
@@ -48,14 +49,14 @@ TEST_F(View, UndoBringsARemovedCheckBackToItsOldPlace) {
     EXPECT_EQ(Position(Datum), -1);
 }
 
-TEST_F(View, AFontCommandAddsAndRemovesItsCheck) {
+TEST_F(ViewCommands, AFontCommandAddsAndRemovesItsCheck) {
     Send(AddNoteFont);
     EXPECT_NE(Live(NoteFont), nullptr);
     Send(AddNoteFont);
     EXPECT_EQ(Live(NoteFont), nullptr);
 }
 
-TEST_F(View, AnUnknownCommandOfTheCatalogueShowsThePageOfChecks) {
+TEST_F(ViewCommands, AnUnknownCommandOfTheCatalogueShowsThePageOfChecks) {
     View().ActivatePage(SummaryPage);
     EXPECT_TRUE(Send(UnknownInRange));
     EXPECT_EQ(View().GetSheet().GetActivePage(), ChecksPage);
@@ -63,20 +64,20 @@ TEST_F(View, AnUnknownCommandOfTheCatalogueShowsThePageOfChecks) {
     EXPECT_EQ(Standard().CountLiveChecks(), 0);
 }
 
-TEST_F(View, ACommandWithoutEffectHasNone) {
+TEST_F(ViewCommands, ACommandWithoutEffectHasNone) {
     View().ActivatePage(SummaryPage);
     EXPECT_TRUE(Send(NothingToDo));
     EXPECT_EQ(View().GetSheet().GetActivePage(), SummaryPage);
 }
 
-TEST_F(View, AddingFromAnotherPageShowsThePageOfChecks) {
+TEST_F(ViewCommands, AddingFromAnotherPageShowsThePageOfChecks) {
     View().ActivatePage(OptionsPage);
     Send(AddReferences);
     EXPECT_EQ(View().GetSheet().GetActivePage(), ChecksPage);
     EXPECT_NE(Live(References), nullptr);
 }
 
-TEST_F(View, CommandsAreEnabledWhereTheyHaveSomethingToDo) {
+TEST_F(ViewCommands, CommandsAreEnabledWhereTheyHaveSomethingToDo) {
     EXPECT_FALSE(IsEnabled(Command::Undo));
     EXPECT_FALSE(IsEnabled(Command::Redo));
     EXPECT_FALSE(IsEnabled(Command::Copy));
@@ -95,7 +96,7 @@ TEST_F(View, CommandsAreEnabledWhereTheyHaveSomethingToDo) {
     EXPECT_FALSE(IsEnabled(Command::Copy)) << "a deleted check is none to copy";
 }
 
-TEST_F(View, OnTheOtherPagesThereIsNothingToEdit) {
+TEST_F(ViewCommands, OnTheOtherPagesThereIsNothingToEdit) {
     Send(AddReferences);
     for (const SheetPage page : {SummaryPage, OptionsPage}) {
         View().ActivatePage(page);
@@ -107,21 +108,21 @@ TEST_F(View, OnTheOtherPagesThereIsNothingToEdit) {
     }
 }
 
-TEST_F(View, PrintingIsHandedOnInItsTwoModes) {
+TEST_F(ViewCommands, PrintingIsHandedOnInItsTwoModes) {
     Send(Command::Print);
     Send(Command::PrintAtOnce);
     ASSERT_EQ(prints.size(), 2u);
-    EXPECT_EQ(prints[0], std::pair(&Document(), PrintMode::WithDialog));
-    EXPECT_EQ(prints[1], std::pair(&Document(), PrintMode::AtOnce));
+    EXPECT_EQ(prints[0], std::pair(&Standard(), PrintMode::WithDialog));
+    EXPECT_EQ(prints[1], std::pair(&Standard(), PrintMode::AtOnce));
 }
 
-TEST_F(View, CloseAllClosesEveryDocument) {
+TEST_F(ViewCommands, CloseAllClosesEveryDocument) {
     New();
     Send(Command::CloseAll);
     EXPECT_TRUE(app.GetDocuments().empty());
 }
 
-TEST_F(View, TheLiveChecksAreCountedInTheStatusBar) {
+TEST_F(ViewCommands, TheLiveChecksAreCountedInTheStatusBar) {
     Send(AddReferences);
     Send(AddDatum);
     Send(AddDatum);
@@ -130,7 +131,7 @@ TEST_F(View, TheLiveChecksAreCountedInTheStatusBar) {
     EXPECT_TRUE(Document().IsModified());
 }
 
-TEST_F(View, WithoutShowAllOnlyTheGroupInFrontIsSeen) {
+TEST_F(ViewCommands, WithoutShowAllOnlyTheGroupInFrontIsSeen) {
     Send(AddReferences);
     Send(AddDatum);
     ASSERT_FALSE(app.IsShowingAll());
@@ -145,7 +146,7 @@ TEST_F(View, WithoutShowAllOnlyTheGroupInFrontIsSeen) {
     EXPECT_TRUE(Pane(Datum).isHidden());
 }
 
-TEST_F(View, EachOpenDocumentFollowsShowAll) {
+TEST_F(ViewCommands, EachOpenDocumentFollowsShowAll) {
     Send(AddReferences);
     Send(AddDatum);
     CExtDialog& hidden = Pane(References);
@@ -154,7 +155,7 @@ TEST_F(View, EachOpenDocumentFollowsShowAll) {
     EXPECT_FALSE(hidden.isHidden());
 }
 
-TEST_F(View, ADocumentThatComesToTheFrontShowsTheGroupInFront) {
+TEST_F(ViewCommands, ADocumentThatComesToTheFrontShowsTheGroupInFront) {
     Send(AddReferences);
     CChildFrame& first = *Document().GetFrame();
     CExtDialog& pane = Pane(References);
@@ -167,7 +168,7 @@ TEST_F(View, ADocumentThatComesToTheFrontShowsTheGroupInFront) {
     EXPECT_TRUE(pane.isHidden());
 }
 
-TEST_F(View, TheSummaryShowsEachCheckAndLeadsToItsPane) {
+TEST_F(ViewCommands, TheSummaryShowsEachCheckAndLeadsToItsPane) {
     Send(AddFeatures);
     Send(AddReferences);
     Pane(References).ToggleExpand();
@@ -180,17 +181,17 @@ TEST_F(View, TheSummaryShowsEachCheckAndLeadsToItsPane) {
     EXPECT_FALSE(Pane(References).isHidden());
 }
 
-TEST_F(View, SummaryAndOptionsTakeWhatThePaneHasNotWrittenYet) {
-    Send(AddReferences);
-    Pane(References).Criticality = 3;
+TEST_F(ViewCommands, SummaryAndOptionsTakeWhatThePaneHasNotWrittenYet) {
+    Send(AddArrowheads);
+    Pane(Arrowheads).Criticality = 3;
     View().ActivatePage(SummaryPage);
-    EXPECT_EQ(Live(References)->Criticality, 3u);
-    Pane(References).Criticality = 2;
+    EXPECT_EQ(Live(Arrowheads)->Criticality, 3u);
+    Pane(Arrowheads).Criticality = 2;
     View().ActivatePage(OptionsPage);
-    EXPECT_EQ(Live(References)->Criticality, 2u);
+    EXPECT_EQ(Live(Arrowheads)->Criticality, 2u);
 }
 
-TEST_F(View, TheEnginesAskForTheUnitOfTheDocumentInFront) {
+TEST_F(ViewCommands, TheEnginesAskForTheUnitOfTheDocumentInFront) {
     const int first = Standard().Unit;
     EXPECT_EQ(ActiveLengthUnit(), first);
     New();
@@ -200,7 +201,7 @@ TEST_F(View, TheEnginesAskForTheUnitOfTheDocumentInFront) {
     EXPECT_EQ(ActiveLengthUnit(), NoActiveUnit);
 }
 
-TEST_F(View, ContentFromOutsideIsTakenUpWhileThePageIsInFront) {
+TEST_F(ViewCommands, ContentFromOutsideIsTakenUpWhileThePageIsInFront) {
     EXPECT_TRUE(Standard().LoadFromXmlText("<Standard Unit=\"3\" AngularUnit=\"3\" Version=\"2026\">"
                                            "<Check Type=\"301\" Criticality=\"2\"/></Standard>"));
     Document().SetLoaded(true);
@@ -210,7 +211,7 @@ TEST_F(View, ContentFromOutsideIsTakenUpWhileThePageIsInFront) {
     EXPECT_EQ(View().GetAngleUnitName(), CString("Radians"));
 }
 
-TEST_F(View, AFileOpensWithItsChecksOnThePage) {
+TEST_F(ViewCommands, AFileOpensWithItsChecksOnThePage) {
     TestFolder folder;
     folder.Put("a.kvstd", "<Standard Unit=\"2\" AngularUnit=\"0\" Version=\"2026\"><Check Type=\"701\"/>"
                           "<Check Type=\"107\" LifeStatus=\"1\"/><Check Type=\"301\"/></Standard>");
