@@ -15,6 +15,6 @@ CAlphaToolBar::CAlphaToolBar(QAction& action, const QString& title, QWidget* par
     m_button->setToolButtonStyle(Qt::ToolButtonTextOnly);
     m_button->setDefaultAction(&action);
     m_button->setObjectName("ShowAllButton");
-    m_button->setAutoRaise(false); // a button of text alone is not known for one without its frame
     addWidget(m_button);
+    m_button->setAutoRaise(false); // text alone is not known for a button without its frame
 }

@@ -18,7 +18,7 @@ CChildFrame::CChildFrame(CAdminModuleApp& app, CAdminModuleDoc& document, QWidge
     : QMdiSubWindow(parent), m_app(app), m_document(document) {
     setAttribute(Qt::WA_DeleteOnClose);
     setObjectName("DocumentWindow");
-    setMinimumSize(400, 300);
+    setMinimumSize(200, 150);
     setWindowIcon(QIcon(Look::IconPixmapOf(DocumentIcon, *this)));
     // The window's own menu would take keys that are the program's.
     for (QAction* action : systemMenu()->actions())

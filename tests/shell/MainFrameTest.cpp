@@ -310,3 +310,21 @@ TEST_F(MainFrame, PrintSetUpAsksForThePaper) {
     Send(Command::PrintSetup);
     EXPECT_TRUE(answer.WasAnswered());
 }
+
+TEST_F(MainFrame, TheDocumentsButtonsStandInTheMenuBar) {
+    QWidget* buttons = Frame().menuBar()->cornerWidget(Qt::TopRightCorner);
+    ASSERT_NE(buttons, nullptr);
+    EXPECT_TRUE(Frame().menuBar()->rect().contains(buttons->geometry()));
+    Open(PutStandard("a.kvstd"));
+    Send(Command::Close);
+    Send(Command::Close);
+    EXPECT_EQ(Frame().menuBar()->cornerWidget(Qt::TopRightCorner), nullptr);
+}
+
+TEST_F(MainFrame, TilingDoesNotWidenTheWindow) {
+    Frame().showNormal();
+    Frame().resize(1024, 700);
+    app.OnFileNew();
+    Send(Command::Tile);
+    EXPECT_EQ(Frame().width(), 1024);
+}

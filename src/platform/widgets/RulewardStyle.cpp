@@ -83,6 +83,7 @@ void RulewardStyle::drawComplexControl(ComplexControl control, const QStyleOptio
     switch (control) {
     case CC_ScrollBar: isDrawn = StyleBars::DrawScrollBar(part); break;
     case CC_Slider: isDrawn = StyleBars::DrawSlider(part); break;
+    case CC_MdiControls: isDrawn = StyleMdi::Draw(part); break;
     case CC_GroupBox: isDrawn = StyleViews::DrawGroupBox(part); break;
     default: isDrawn = StyleFields::DrawComplex(control, part); break;
     }
@@ -98,6 +99,8 @@ QRect RulewardStyle::subControlRect(ComplexControl control, const QStyleOptionCo
     if (control == CC_GroupBox)
         if (const auto* group = qstyleoption_cast<const QStyleOptionGroupBox*>(option))
             return StyleViews::PlaceInGroupBox(*proxy(), *group, sub);
+    if (control == CC_MdiControls)
+        return StyleMdi::Place(option->rect, sub);
     QRect rect;
     if (StyleFields::PlaceSubControl(control, *option, sub, rect))
         return rect;

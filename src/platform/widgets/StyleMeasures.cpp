@@ -88,6 +88,7 @@ QSize RulewardStyle::sizeFromContents(ContentsType type, const QStyleOption* opt
         if (const auto* section = qstyleoption_cast<const QStyleOptionHeader*>(option))
             return HeaderSize(*section, size, widget);
         return size;
+    case CT_MdiControls: return StyleMdi::Size();
     case CT_ItemViewItem: return {size.width(), qMax(size.height() + 2, ItemHeight)};
     default: return size;
     }

@@ -100,3 +100,9 @@ bool DrawControl(QStyle::ControlElement element, const StylePart& part);
 bool DrawGroupBox(const StylePart& part);
 QRect PlaceInGroupBox(const QStyle& style, const QStyleOptionGroupBox& group, QStyle::SubControl sub);
 } // namespace StyleViews
+
+namespace StyleMdi {
+QSize Size();
+QRect Place(const QRect& rect, QStyle::SubControl sub); // empty for another part
+bool Draw(const StylePart& part);
+} // namespace StyleMdi
