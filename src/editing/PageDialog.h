@@ -33,6 +33,7 @@ public:
 
     void SelectPane(int position);
     void ToggleSelection(int position);
+    void SelectCheck(MQC_CheckType_e type); // where its pane stands on the page, and brings that into view
     void FocusGroup(MQC_CheckType_e type);
     MQC_CheckType_e TypeAtPosition(int position) const; // 0 where there is none
     int GetSelectedPosition() const { return SelectedPos; }
@@ -90,7 +91,6 @@ private:
 
     void ClearSelection();
     void PutBack(MQC_CheckType_e type);
-    void SelectAndReveal(MQC_CheckType_e type);
 
     EditingHost& m_host;
     CPageScroller Scroller;

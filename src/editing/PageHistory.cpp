@@ -6,12 +6,12 @@ void CPageDialog::ApplyHistoryStep(MQC_CheckType_e type, int action, bool isUndo
     case LifeEdited:
         if (CCheck* check = GetPane(type, false) ? LiveCheck(type) : nullptr) {
             LoadPane(*check);
-            SelectAndReveal(type);
+            SelectCheck(type);
         }
         break;
     case LifeMoved:
         RebuildPositions();
-        SelectAndReveal(type);
+        SelectCheck(type);
         RelayoutKeepScroll();
         break;
     case LifeInForce:
@@ -26,15 +26,6 @@ void CPageDialog::ApplyHistoryStep(MQC_CheckType_e type, int action, bool isUndo
     m_host.ArmUpdate();
 }
 
-// Selects a pane where it stands on the page, and brings it into view.
-void CPageDialog::SelectAndReveal(MQC_CheckType_e type) {
-    const auto entry = TypeToPos.find(type);
-    if (entry == TypeToPos.end())
-        return;
-    SelectPane(entry->second);
-    RevealPane(*GetPane(type, false));
-}
-
 // A check is in force again: its pane goes back to its old place between its neighbours.
 void CPageDialog::PutBack(MQC_CheckType_e type) {
     CCheck* check = LiveCheck(type);
@@ -47,5 +38,5 @@ void CPageDialog::PutBack(MQC_CheckType_e type) {
     ShowPane(*pane, pane->Position);
     SetCheckTypeActive(type, true);
     RelayoutKeepScroll();
-    SelectAndReveal(type);
+    SelectCheck(type);
 }

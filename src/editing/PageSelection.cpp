@@ -35,6 +35,14 @@ void CPageDialog::SelectPane(int position) {
     m_host.ArmUpdate();
 }
 
+void CPageDialog::SelectCheck(MQC_CheckType_e type) {
+    const auto entry = TypeToPos.find(type);
+    if (entry == TypeToPos.end())
+        return;
+    SelectPane(entry->second);
+    RevealPane(*GetPane(type, false));
+}
+
 void CPageDialog::ToggleSelection(int position) {
     CExtDialog* pane = PaneAt(position);
     if (!pane)

@@ -139,5 +139,5 @@ void CRulewardOptions::OnAngleUnitChosen() {
 }
 
 void CRulewardOptions::paintEvent(QPaintEvent*) {
-    QPainter(this).fillRect(rect(), QColor(Look::PageGround));
+    QPainter(this).fillRect(rect(), QColor(Look::PaneGround));
 }

@@ -89,7 +89,6 @@ private:
     std::unique_ptr<CCheck> FromClipboard(const CCheck& check) const;
     void PasteOver(const CCheck& check, const CCheck& live);
     void PasteNew(const CCheck& check);
-    void SelectType(MQC_CheckType_e type);
 
     int CurrentLengthUnit() const;
     int CurrentAngleUnit() const;

@@ -128,7 +128,7 @@ void CAdminModView::PasteOver(const CCheck& check, const CCheck& live) {
     const auto clone = FromClipboard(check);
     GetStandard().EditCheckCopy(*clone);
     m_checks->LoadPane(*clone);
-    SelectType(clone->Type);
+    m_checks->SelectCheck(clone->Type);
 }
 
 void CAdminModView::PasteNew(const CCheck& check) {
@@ -142,11 +142,5 @@ void CAdminModView::PasteNew(const CCheck& check) {
     CCheck* live = nullptr;
     GetStandard().FindLiveByType(check.Type, live);
     if (live && m_checks->InsertCheck(*live))
-        SelectType(check.Type);
-}
-
-void CAdminModView::SelectType(MQC_CheckType_e type) {
-    const auto position = m_checks->GetTypePositions().find(type);
-    if (position != m_checks->GetTypePositions().end())
-        m_checks->SelectPane(position->second);
+        m_checks->SelectCheck(check.Type);
 }

@@ -4,13 +4,15 @@
 #include "editing/PageSheet.h"
 #include "engines/ActiveUnit.h"
 
-#include <QScrollBar>
+#include <QCheckBox>
+#include <QLineEdit>
 
 namespace {
 
-constexpr unsigned AddArrowheads = 32772, AddReferences = 32775, AddNoteFont = 32896, AddDatum = 32778,
-                   AddFeatures = 32893;
-constexpr MQC_CheckType_e Arrowheads = 102, References = 107, NoteFont = 109, Datum = 301, Features = 701;
+constexpr unsigned AddDrafting = 32771, AddArrowheads = 32772, AddReferences = 32775, AddNoteFont = 32896,
+                   AddDatum = 32778, AddFeatures = 32893;
+constexpr MQC_CheckType_e Drafting = 101, Arrowheads = 102, References = 107, NoteFont = 109, Datum = 301,
+                          Features = 701;
 constexpr unsigned UnknownInRange = 32800, NothingToDo = 32859;
 
 using ViewCommands = ViewRoom;
@@ -27,8 +29,9 @@ TEST_F(ViewCommands, ANewDocumentShowsAnEmptyPageUnderItsTitle) {
 TEST_F(ViewCommands, ACommandOfTheCatalogueTwiceAddsACheckAndTakesItAway) {
     EXPECT_TRUE(Send(AddReferences));
     EXPECT_NE(Live(References), nullptr);
-    EXPECT_TRUE(app.GetRouter().ActionOf(AddReferences)->isCheckable() == false ||
-                app.GetRouter().ActionOf(AddReferences)->isChecked());
+    CommandState state;
+    EXPECT_TRUE(View().OnUpdateCommand(AddReferences, state));
+    EXPECT_TRUE(state.checked);
     EXPECT_TRUE(Page().hasFocus());
     EXPECT_TRUE(Send(AddReferences));
     EXPECT_EQ(Live(References), nullptr);
@@ -47,6 +50,18 @@ TEST_F(ViewCommands, UndoBringsARemovedCheckBackToItsOldPlace) {
     EXPECT_NE(Live(Datum), nullptr);
     EXPECT_TRUE(Send(Command::Redo));
     EXPECT_EQ(Position(Datum), -1);
+}
+
+TEST_F(ViewCommands, TheKeyForUndoInAFieldUndoesAStepOfTheStandard) {
+    Send(AddDrafting);
+    Gui::Click(*Pane(Drafting).GetDlgItem<QCheckBox>(1020));
+    auto& field = *Pane(Drafting).GetDlgItem<QLineEdit>(1315);
+    Gui::Focus(field);
+    Gui::Type(field, "AB");
+    const int steps = Standard().GetHistoryIndex();
+    Gui::Key(field, Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(Standard().GetHistoryIndex(), steps - 1);
+    EXPECT_EQ(field.text(), "A");
 }
 
 TEST_F(ViewCommands, AFontCommandAddsAndRemovesItsCheck) {
@@ -122,7 +137,7 @@ TEST_F(ViewCommands, CloseAllClosesEveryDocument) {
     EXPECT_TRUE(app.GetDocuments().empty());
 }
 
-TEST_F(ViewCommands, TheLiveChecksAreCountedInTheStatusBar) {
+TEST_F(ViewCommands, OnlyLiveChecksCountAndMakeADocumentModified) {
     Send(AddReferences);
     Send(AddDatum);
     Send(AddDatum);
