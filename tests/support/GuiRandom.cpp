@@ -20,6 +20,7 @@
 #include <QSpinBox>
 #include <QTemporaryDir>
 #include <QTextEdit>
+#include <algorithm>
 #include <utility>
 
 namespace {
@@ -45,6 +46,13 @@ void MakeLikeThePane(CStandard& standard) {
     standard.FindLiveByType(DraftingStandard, check);
     SetParameter(*check, DraftingStandards, OpOneOf, {"1", "3"});
     SetParameter(*check, DraftingStandardName, OpNone, {});
+}
+
+// Where two texts part, with what is around.
+CString FirstDifference(const CString& one, const CString& other) {
+    const auto [at, atOther] = std::ranges::mismatch(one, other);
+    const qsizetype start = std::max<qsizetype>(0, (at - one.begin()) - 200);
+    return "\n  " + one.mid(start, 300) + "\n  " + other.mid(start, 300);
 }
 
 bool IsOwnControl(const QWidget& control) {
@@ -125,7 +133,8 @@ CString RandomWalk::UnmodifiedDiffers() {
         return {};
     return LiveTextOf(document.GetStandard()) == saved->second.text
                ? CString()
-               : CString("what counts as unmodified differs from what was saved\n");
+               : "what counts as unmodified differs from what was saved:" +
+                     FirstDifference(LiveTextOf(document.GetStandard()), saved->second.text) + "\n";
 }
 
 CString RandomWalk::LastCommands() const {
@@ -385,7 +394,7 @@ void RandomWalk::EndSave(CAdminModuleDoc* document, const CString& path) {
         if (document->GetUserPath() != path)
             Complain("not saved: " + path);
         if (written != text)
-            Complain("the file is not what the standard holds: " + path + "\n" + written + "\n---\n" + text);
+            Complain("the file is not what the standard holds: " + path + FirstDifference(written, text));
         if (document->IsModified())
             Complain("modified after a save");
         m_saved[document] = {text, false};
