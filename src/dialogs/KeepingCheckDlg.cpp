@@ -32,4 +32,6 @@ void CKeepingCheckDlg::FillCheck(CCheck& check) {
 void CKeepingCheckDlg::LoadCheck(const CCheck& check) {
     m_loaded = CStandard::CloneCheck(check);
     CExtDialog::LoadCheck(check);
+    // The base leaves the custom checks alone; what stands in the pane is written all the same.
+    Criticality = check.Criticality;
 }

@@ -26,6 +26,7 @@
 namespace {
 
 constexpr MQC_CheckType_e DraftingStandard = 101;
+constexpr MQC_CheckType_e CustomChecks = 122;
 constexpr unsigned DraftingStandards = 1578, DraftingStandardName = 0;
 constexpr int DraftingBoxes[] = {1005, 1007, 1009, 1011, 1021, 1017, 1019, 1020};
 constexpr int CustomBox = 1020, CustomName = 1315;
@@ -46,6 +47,8 @@ void MakeLikeThePane(CStandard& standard) {
     standard.FindLiveByType(DraftingStandard, check);
     SetParameter(*check, DraftingStandards, OpOneOf, {"1", "3"});
     SetParameter(*check, DraftingStandardName, OpNone, {});
+    standard.FindLiveByType(CustomChecks, check);
+    check->Criticality = 3; // its pane shows none, and must keep it
 }
 
 // Where two texts part, with what is around.
@@ -53,6 +56,13 @@ CString FirstDifference(const CString& one, const CString& other) {
     const auto [at, atOther] = std::ranges::mismatch(one, other);
     const qsizetype start = std::max<qsizetype>(0, (at - one.begin()) - 200);
     return "\n  " + one.mid(start, 300) + "\n  " + other.mid(start, 300);
+}
+
+// What a file keeps of the live checks: where they have no correction, reading gives them one.
+CString StoredTextOf(const CStandard& standard) {
+    CStandard read;
+    read.LoadFromXmlText(LiveTextOf(standard));
+    return LiveTextOf(read);
 }
 
 bool IsOwnControl(const QWidget& control) {
@@ -383,21 +393,21 @@ void RandomWalk::BeginSave(const CString& path) {
     if (!Saving)
         return;
     m_tool.View().CommitPending();
-    m_expected = LiveTextOf(m_tool.Standard());
+    m_expected = StoredTextOf(m_tool.Standard());
     Saving(path, m_expected);
 }
 
 void RandomWalk::EndSave(CAdminModuleDoc* document, const CString& path) {
     const CString written = LiveTextOfFile(path);
     if (document) {
-        const CString text = LiveTextOf(document->GetStandard());
+        const CString text = StoredTextOf(document->GetStandard());
         if (document->GetUserPath() != path)
             Complain("not saved: " + path);
         if (written != text)
             Complain("the file is not what the standard holds: " + path + FirstDifference(written, text));
         if (document->IsModified())
             Complain("modified after a save");
-        m_saved[document] = {text, false};
+        m_saved[document] = {LiveTextOf(document->GetStandard()), false};
     }
     if (Saving && written != m_expected)
         Complain("the file is not what was to be saved: " + path);

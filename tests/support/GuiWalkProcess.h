@@ -9,6 +9,7 @@
 class WalkProcess {
 public:
     WalkProcess(const CString& mode, const CString& path); // starts it; see tests/walk/Main.cpp
+    ~WalkProcess() { Kill(); }
 
     // The next line without its end; a null text where none comes within the time or the process has ended.
     CString NextLine(int limitMs = 60000);
