@@ -106,8 +106,9 @@ void CStandardCheckDlg::LoadCheck(const CCheck& check) {
             continue;
         m_boxes[static_cast<size_t>(value - 1)] = 1;
         const auto* name = check.GetStringParameter(NameParameter);
-        if (value == CustomValue && name && name->Values.Count > 0 && name->Values[0])
-            m_customName = *name->Values[0];
+        // A check without a name must not keep that of another state of the check.
+        if (value == CustomValue)
+            m_customName = name && name->Values.Count > 0 && name->Values[0] ? *name->Values[0] : CString();
     }
     UpdateCustomEntry();
     CParameterCheckDlg::LoadCheck(check);

@@ -47,6 +47,10 @@ CPageSheet::CPageSheet(QWidget* parent)
     SetUpHeader();
 }
 
+CPageSheet::~CPageSheet() {
+    delete Grid; // it tells of its size to its end
+}
+
 void CPageSheet::SetUpHeader() {
     Grid->SetColCount(ColumnCount);
     for (int col = 0; col < ColumnCount; ++col)

@@ -10,6 +10,7 @@
 class CPageSheet : public QWidget {
 public:
     explicit CPageSheet(QWidget* parent = nullptr);
+    ~CPageSheet() override;
 
     // Fills the grid. A click on a row is told to `source`, which must outlive the page or its next showing.
     void OnSetActive(SummarySource& source);
