@@ -4,6 +4,7 @@
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QComboBox>
+#include <QDialog>
 #include <QEvent>
 #include <QFileDialog>
 #include <QItemSelectionModel>
@@ -177,7 +178,8 @@ void ChooseFile(QWidget& dialog, const CString& path) {
         if (view->selectionModel())
             view->selectionModel()->clearSelection();
     name->setText(path);
-    QTest::keyClick(name, Qt::Key_Return);
+    // Not by Return: until the dialog has read the folder its list of proposals takes the key.
+    dynamic_cast<QDialog&>(dialog).accept();
 }
 
 QWidget* FindNumber(QWidget& parent, int number) {

@@ -190,6 +190,9 @@ int main(int argc, char** argv) {
     const NoPrinter adapter;
     const PrintAdapterScope printing(adapter);
     QDir().mkpath(argv[1]);
+    // Those of an earlier tour would be asked about.
+    for (const char* result : {"Tour.kvstd", "Merged.kvstd", "Report.pdf"})
+        QFile::remove(QDir(argv[1]).filePath(result));
     Tour tour(QDir(argv[1]).absolutePath(), QDir(argv[2]).absolutePath());
     if (!tour.Play())
         return 1;
