@@ -2,6 +2,16 @@
 
 #include <utility>
 
+namespace {
+
+// The custom checks have one each; their pane shows none for all and must not write one.
+bool HasOwnCriticality(const CCheck& check) {
+    constexpr MQC_CheckType_e CustomChecks = 122;
+    return check.Type != CustomChecks;
+}
+
+} // namespace
+
 CKeepingCheckDlg::CKeepingCheckDlg(EditingHost& host, unsigned templateID, unsigned iconID,
                                    unsigned captionStringID, unsigned helpTopic)
     : CExtDialog(host, templateID, iconID, captionStringID), m_helpTopic(helpTopic) {}
@@ -12,7 +22,7 @@ void CKeepingCheckDlg::CommitCheck() {
     CCheck* live = nullptr;
     GetHost().GetStandard().FindLiveByType(CheckType, live);
     // Without a change there is nothing to write, and nothing that would have to be undone.
-    if (!live || live->Criticality == Criticality)
+    if (!live || live->Criticality == Criticality || !HasOwnCriticality(*live))
         return;
     auto check = CStandard::CloneCheck(*live);
     check->Criticality = Criticality;
@@ -27,11 +37,11 @@ void CKeepingCheckDlg::FillCheck(CCheck& check) {
         check.Sequence = sequence;
     }
     CExtDialog::FillCheck(check);
+    if (m_loaded && !HasOwnCriticality(check))
+        check.Criticality = m_loaded->Criticality;
 }
 
 void CKeepingCheckDlg::LoadCheck(const CCheck& check) {
     m_loaded = CStandard::CloneCheck(check);
     CExtDialog::LoadCheck(check);
-    // The base leaves the custom checks alone; what stands in the pane is written all the same.
-    Criticality = check.Criticality;
 }
