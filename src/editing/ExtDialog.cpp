@@ -6,6 +6,7 @@
 #include "editing/MyStatic.h"
 #include "editing/PageDialog.h"
 #include "editing/PaneCaption.h"
+#include "editing/PaneColumns.h"
 #include "editing/PaneControls.h"
 #include "engines/UnitConvertor.h"
 #include "engines/UnitText.h"
@@ -28,7 +29,7 @@ constexpr unsigned CriticalityTexts[] = {2267, 2268, 2269, 2270};
 constexpr unsigned CriticalityIcons[] = {1425, 1424, 1426, 1427};
 constexpr int PositionUnit = 20; // pixels of height
 // All panes are of one width, for the page keeps them at the width of the first that was made.
-constexpr int LeastWidth = 844;
+constexpr int LeastWidth = 740;
 
 constexpr QRgb PlainFrame = FromColorRef(0xA19290);
 constexpr QRgb SelectedFrame = FromColorRef(0xA14A4A);
@@ -72,6 +73,7 @@ bool CExtDialog::Create(QWidget* parent) {
     On(ExpandControl, ControlEvent::Clicked, &CExtDialog::ToggleExpand);
     if (!OnInitDialog())
         return false;
+    m_columns = std::make_unique<PaneColumns>(m_body);
     m_fullSize = (m_body.sizeHint() + QSize(2, Look::CaptionHeight + 1)).expandedTo({LeastWidth, 0});
     LogicalSize = m_fullSize.height() / PositionUnit + 1;
     resize(m_fullSize);
@@ -196,6 +198,7 @@ void CExtDialog::resizeEvent(QResizeEvent*) {
     if (!HasWindow())
         return;
     m_caption->Place();
+    m_columns->Fit(width() - 2);
     m_body.setGeometry(1, Look::CaptionHeight, width() - 2, m_fullSize.height() - Look::CaptionHeight - 1);
     m_body.setVisible(height() > Look::CaptionHeight);
 }

@@ -13,6 +13,7 @@
 
 class CMyStatic;
 class PaneCaption;
+class PaneColumns;
 class QComboBox;
 class QLabel;
 class QLineEdit;
@@ -136,7 +137,8 @@ private:
 
     QWidget& m_body; // holds the template's controls, below the caption
     std::unique_ptr<PaneCaption> m_caption;
-    QSize m_fullSize; // with the caption
+    std::unique_ptr<PaneColumns> m_columns; // null until the template is loaded
+    QSize m_fullSize;                       // with the caption
     unsigned m_templateID;
     std::optional<quint64> m_lastPress; // the time of a press that is not released yet
 };

@@ -1,0 +1,41 @@
+#include "model/Catalogue.h"
+#include "support/GuiTool.h"
+#include "support/Language.h"
+
+#include <QComboBox>
+#include <QLabel>
+#include <QScrollBar>
+#include <gtest/gtest.h>
+
+namespace {
+
+constexpr QSize Smallest(1024, 700);
+
+class SmallestWindow : public testing::TestWithParam<const char*> {};
+
+} // namespace
+
+TEST_P(SmallestWindow, ShowsEveryPaneWhole) {
+    const Language language(GetParam());
+    GuiTool tool(Smallest);
+    for (const PageCheckRow& row : PageChecks())
+        tool.Page().AddCheck(row.type, nullptr);
+    if (!tool.View().IsShowingAll()) {
+        ASSERT_TRUE(tool.Do(Command::ShowAllChecks));
+    }
+    EXPECT_EQ(tool.Frame().width(), Smallest.width());
+    EXPECT_FALSE(tool.Page().horizontalScrollBar()->isVisible());
+    for (const PageCheckRow& row : PageChecks()) {
+        CExtDialog* pane = tool.Pane(row.type);
+        ASSERT_NE(pane, nullptr) << row.dialogClass;
+        for (const QLabel* label : pane->findChildren<QLabel*>())
+            EXPECT_TRUE(label->isHidden() || label->wordWrap() || label->width() >= label->sizeHint().width())
+                << row.dialogClass << ": " << label->text().toStdString();
+        const auto* criticality = pane->GetDlgItem<QComboBox>(1249);
+        ASSERT_NE(criticality, nullptr) << row.dialogClass;
+        EXPECT_LE(criticality->mapTo(pane, QPoint(criticality->width(), 0)).x(), pane->width())
+            << row.dialogClass;
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Languages, SmallestWindow, testing::Values("English", "German"));
