@@ -1,15 +1,11 @@
-// A figure is a ratio of two times of one run, or a count; it has a bound that it must keep.
+// What is measured of the core and of kvstd.
 #pragma once
+
+#include "Table.h"
 
 #include <functional>
 #include <string>
 #include <vector>
-
-struct Figure {
-    std::string name;
-    double value;
-    double bound;
-};
 
 // The median time of a task in nanoseconds, measured by the benchmark library over several repetitions.
 double MedianTime(const std::string& name, const std::function<void()>& task);

@@ -72,15 +72,5 @@ int main(int argc, char** argv) {
         return 1;
     }
     benchmark::Initialize(&argc, argv);
-    bool allKept = true;
-    std::printf("%-58s %10s %10s\n", "figure", "value", "bound");
-    for (const auto& measure : {FileFigures, ListingFigures, MergeFigures, ProcessFigures})
-        for (const Figure& figure : measure()) {
-            const bool kept = figure.value <= figure.bound;
-            allKept &= kept;
-            std::printf("%-58s %10.2f %10.2f %s\n", figure.name.c_str(), figure.value, figure.bound,
-                        kept ? "ok" : "over");
-            std::fflush(stdout);
-        }
-    return allKept ? 0 : 1;
+    return PrintTable({FileFigures, ListingFigures, MergeFigures, ProcessFigures}) ? 0 : 1;
 }

@@ -4,7 +4,7 @@
 
 #include <QIcon>
 #include <QImage>
-#include <vector>
+#include <memory>
 
 // A darker image: each channel c becomes 255 * (c / 255) ^ 1.4, cut off.
 QImage HotImage(const QImage& image);
@@ -17,10 +17,14 @@ public:
     // `size` is the width and height of one image of the strip.
     explicit CAlphaImageList(unsigned bitmapID, int size = 16);
 
-    int GetCount() const { return static_cast<int>(m_icons.size()); }
+    int GetCount() const { return m_count; }
     // An empty icon for a place that the strip has not.
     QIcon GetIcon(int index) const;
 
 private:
-    std::vector<QIcon> m_icons;
+    class Strip;
+    class Engine;
+
+    std::shared_ptr<Strip> m_strip; // the icons keep it
+    int m_count;
 };

@@ -31,19 +31,6 @@ int WidestText(const CAdminModuleApp::Catalogue& catalogue, const QFontMetrics& 
     return widest;
 }
 
-// Of an icon of the language library, at the scales of all screens.
-QIcon TabIcon(unsigned id) {
-    QIcon icon;
-    for (const qreal scale : {1.0, 1.5, 2.0, 3.0}) {
-        const QImage image = LoadImageOf(ImageType::Icon, id, 1.0);
-        const qreal fit = image.width() > 0 ? scale * TabImageSize / image.width() : scale;
-        QPixmap pixmap = QPixmap::fromImage(LoadImageOf(ImageType::Icon, id, fit));
-        pixmap.setDevicePixelRatio(scale);
-        icon.addPixmap(pixmap);
-    }
-    return icon;
-}
-
 } // namespace
 
 CTabToolbar::CTabToolbar(CAdminModuleApp& app, QWidget* parent)
@@ -86,7 +73,7 @@ void CTabToolbar::MakeTabs() {
     m_tabs->setFocusPolicy(Qt::StrongFocus);
     m_tabs->setAccessibleName(WithoutMnemonic(LoadString(2109)));
     for (const CheckGroup& group : CheckGroups()) {
-        const int tab = m_tabs->addTab(TabIcon(group.tabIcon), {});
+        const int tab = m_tabs->addTab(Look::SmallIconOf(group.tabIcon), {});
         const CString name = LoadString(group.tabTooltipText);
         m_tabs->setTabToolTip(tab, name);
         m_tabs->setAccessibleTabName(tab, name);
