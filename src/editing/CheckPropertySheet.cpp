@@ -8,6 +8,7 @@
 #include <QShortcut>
 #include <QStackedWidget>
 #include <QVBoxLayout>
+#include <memory>
 #include <utility>
 
 CCheckPropertySheet::CCheckPropertySheet(QWidget* parent)
@@ -25,11 +26,11 @@ CCheckPropertySheet::CCheckPropertySheet(QWidget* parent)
             [this] { Turn(1); });
 }
 
-void CCheckPropertySheet::AddPage(QWidget& page, const CString& title, const QKeySequence& key,
-                                  std::function<void()> onActive) {
+void CCheckPropertySheet::AddPage(std::function<QWidget*()> make, const CString& title,
+                                  const QKeySequence& key, std::function<void()> onActive) {
+    m_make.push_back(std::move(make));
     m_onActive.push_back(std::move(onActive));
-    m_pages->addWidget(&page);
-    page.setAccessibleName(title);
+    m_pages->addWidget(new QWidget); // holds the place
     const int tab = m_tabs->addTab(title);
     const CString tip = LoadString(PageTabTip);
     m_tabs->setTabToolTip(
@@ -38,6 +39,17 @@ void CCheckPropertySheet::AddPage(QWidget& page, const CString& title, const QKe
         ActivatePage(tab);
         m_pages->currentWidget()->setFocus(Qt::ShortcutFocusReason);
     });
+}
+
+QWidget& CCheckPropertySheet::GetPage(int page) {
+    if (const auto make = std::exchange(m_make[static_cast<size_t>(page)], nullptr)) {
+        const std::unique_ptr<QWidget> place(m_pages->widget(page));
+        QWidget* made = make();
+        made->setAccessibleName(m_tabs->tabText(page));
+        m_pages->insertWidget(page, made);
+        m_pages->removeWidget(place.get());
+    }
+    return *m_pages->widget(page);
 }
 
 int CCheckPropertySheet::GetActivePage() const {
@@ -54,6 +66,7 @@ void CCheckPropertySheet::ActivatePage(int page) {
 void CCheckPropertySheet::OnTabChanged(int page) {
     if (page < 0 || page >= m_pages->count())
         return;
+    GetPage(page);
     if (const auto& onActive = m_onActive[static_cast<size_t>(page)])
         onActive();
     m_pages->setCurrentIndex(page);

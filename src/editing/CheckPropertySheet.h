@@ -17,10 +17,13 @@ class CCheckPropertySheet : public QWidget {
 public:
     explicit CCheckPropertySheet(QWidget* parent = nullptr);
 
-    // Takes the page, which the sheet owns from then on, under a title and a key that brings it to the front.
-    // `onActive` runs just before the page is shown.
-    void AddPage(QWidget& page, const CString& title, const QKeySequence& key,
+    // Takes a page under a title and a key that brings it to the front. The page, which the sheet then owns,
+    // is made when it is first asked for. `onActive` runs just before it is shown.
+    void AddPage(std::function<QWidget*()> make, const CString& title, const QKeySequence& key,
                  std::function<void()> onActive);
+
+    // Makes the page if it has not been seen yet.
+    QWidget& GetPage(int page);
 
     // The page comes to the front, and its `onActive` runs even if it was there before.
     void ActivatePage(int page);
@@ -33,5 +36,6 @@ private:
 
     CTabCtrlInPropertySheet* m_tabs;
     QStackedWidget* m_pages;
+    std::vector<std::function<QWidget*()>> m_make; // empty where the page is made
     std::vector<std::function<void()>> m_onActive;
 };

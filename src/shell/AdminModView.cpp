@@ -28,24 +28,32 @@ void TellActiveUnit(const CAdminModuleApp& app) {
     });
 }
 
+QWidget* MakeSummary() {
+    auto* summary = new CPageSheet;
+    summary->setFocusProxy(summary->Grid);
+    return summary;
+}
+
 } // namespace
 
 CAdminModView::CAdminModView(CAdminModuleApp& app, CAdminModuleDoc& document, QWidget* parent,
                              PrintFunction print)
     : QWidget(parent), m_app(app), m_document(document), m_print(std::move(print)),
-      m_sheet(new CCheckPropertySheet(this)), m_checks(new CPageDialog(*this)), m_summary(new CPageSheet),
+      m_sheet(new CCheckPropertySheet(this)), m_checks(new CPageDialog(*this)),
       m_options(new CRulewardOptions(*this)) {
     if (liveViews++ == 0)
         TellActiveUnit(app);
-    m_sheet->AddPage(*m_checks, LoadString(PageChecksTab), Qt::Key_F5,
+    m_sheet->AddPage([this] { return m_checks; }, LoadString(PageChecksTab), Qt::Key_F5,
                      [this] { m_checks->TakeUpLoadedChecks(); });
-    m_sheet->AddPage(*m_summary, LoadString(PageSummaryTab), Qt::Key_F6,
-                     [this] { m_summary->OnSetActive(*this); });
-    m_sheet->AddPage(*m_options, LoadString(PageOptionsTab), Qt::Key_F7, [this] {
-        CommitPending();
-        m_options->OnSetActive(LengthUnitText, AngleUnitText);
-    });
-    m_summary->setFocusProxy(m_summary->Grid);
+    m_sheet->AddPage(MakeSummary, LoadString(PageSummaryTab), Qt::Key_F6,
+                     [this] { GetSummaryPage().OnSetActive(*this); });
+    m_sheet->AddPage([this] { return m_options; }, LoadString(PageOptionsTab), Qt::Key_F7,
+                     [this] {
+                         CommitPending();
+                         m_options->OnSetActive(LengthUnitText, AngleUnitText);
+                     });
+    m_sheet->GetPage(ChecksPage);
+    m_sheet->GetPage(OptionsPage);
     m_options->LengthUnitChosen = [this] { OnLengthUnitChanged(); };
     m_options->AngleUnitChosen = [this] { OnAngleUnitChanged(); };
     auto* column = new QVBoxLayout(this);
@@ -66,6 +74,10 @@ void CAdminModView::OnInitialUpdate() {
     m_shownGroup = CurrentGroup();
     ActivatePage(ChecksPage);
     m_checks->setFocus();
+}
+
+CPageSheet& CAdminModView::GetSummaryPage() const {
+    return dynamic_cast<CPageSheet&>(m_sheet->GetPage(SummaryPage));
 }
 
 void CAdminModView::CommitPending() {

@@ -62,7 +62,7 @@ public:
     void ArmUpdate() override;
 
     CCheckPropertySheet& GetSheet() const { return *m_sheet; }
-    CPageSheet& GetSummaryPage() const { return *m_summary; }
+    CPageSheet& GetSummaryPage() const;
     CRulewardOptions& GetOptionsPage() const { return *m_options; }
     const CString& GetLengthUnitName() const { return LengthUnitText; }
     const CString& GetAngleUnitName() const { return AngleUnitText; }
@@ -106,7 +106,6 @@ private:
     PrintFunction m_print;
     CCheckPropertySheet* m_sheet; // owns the pages
     CPageDialog* m_checks;
-    CPageSheet* m_summary;
     CRulewardOptions* m_options;
     CString LengthUnitText; // full names of the current units
     CString AngleUnitText;

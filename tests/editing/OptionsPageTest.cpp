@@ -32,9 +32,13 @@ class Sheet : public ::testing::Test {
 protected:
     Sheet() {
         for (const auto& [title, key] : {std::pair("One", Qt::Key_F5), std::pair("Two", Qt::Key_F6)}) {
-            auto* page = new QWidget;
-            page->setFocusPolicy(Qt::StrongFocus);
-            sheet.AddPage(*page, title, key, [this, title = CString(title)] { shown.append(title); });
+            const auto make = [this] {
+                auto* page = new QWidget;
+                page->setFocusPolicy(Qt::StrongFocus);
+                ++made;
+                return page;
+            };
+            sheet.AddPage(make, title, key, [this, title = CString(title)] { shown.append(title); });
         }
         sheet.resize(600, 400);
         shown.clear();
@@ -42,7 +46,18 @@ protected:
 
     CCheckPropertySheet sheet;
     CStringArray shown;
+    int made = 0;
 };
+
+TEST_F(Sheet, APageIsMadeWhenItIsFirstSeen) {
+    EXPECT_EQ(made, 1);
+    sheet.ActivatePage(1);
+    EXPECT_EQ(made, 2);
+    EXPECT_EQ(sheet.GetPage(1).accessibleName(), "Two");
+    sheet.ActivatePage(0);
+    sheet.ActivatePage(1);
+    EXPECT_EQ(made, 2);
+}
 
 } // namespace
 
