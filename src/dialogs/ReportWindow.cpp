@@ -13,33 +13,15 @@
 #include <QPushButton>
 #include <QShortcut>
 #include <QStandardPaths>
-#include <QTextBrowser>
-#include <QTimer>
 #include <QToolButton>
 #include <algorithm>
 
 namespace {
 
-constexpr int PaperWidth = 800;
-constexpr int PaperMargin = 20; // around what is printed
-constexpr int Ground = 24;      // around the paper
-constexpr int ScrollBarRoom = 24;
-constexpr QSize FirstSize(PaperWidth + 2 * Ground + ScrollBarRoom + 24, 720);
-constexpr int MostZoom = 12; // steps of one point
+constexpr int FirstHeight = 720;
+constexpr int MostZoom = 12; // steps
 constexpr int LeastZoom = -5;
-
-// A sheet of one width, whatever the window's: each other width would be a new layout of the whole report.
-class PaperView : public QTextBrowser {
-public:
-    PaperView() {
-        setViewportMargins(Ground, Ground / 2, Ground, Ground / 2);
-        setLineWrapMode(FixedPixelWidth);
-        setLineWrapColumnOrWidth(PaperWidth);
-        setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
-        setMaximumWidth(PaperWidth + 2 * Ground + ScrollBarRoom);
-        setOpenLinks(false);
-    }
-};
+constexpr qreal ZoomStep = 0.09; // one point of letters of eleven
 
 } // namespace
 
@@ -59,42 +41,20 @@ bool SaveReportPdf(const Report& report, const CString& target, const QPageLayou
     return saved.ok;
 }
 
-ReportWindow::ReportWindow(const Report& report, QWidget* parent)
-    : QDialog(parent, Qt::Window), m_report(report), m_document(report.folder) {
+ReportWindow::ReportWindow(const Report& report, std::unique_ptr<LaidOutReport> page, QWidget* parent)
+    : QDialog(parent, Qt::Window), m_report(report), m_page(new ReportView(std::move(page))) {
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowTitle(LoadString(ReportWindowTitle).arg(report.Stem()));
-    resize(FirstSize);
     auto* rows = new QVBoxLayout(this);
     rows->setContentsMargins(12, 12, 12, 12);
     rows->setSpacing(10);
-    MakePage();
+    rows->addWidget(m_page, 1);
+    m_page->setAccessibleName(windowTitle());
+    connect(m_page, &ReportView::ZoomTurned, this, &ReportWindow::Zoom);
     MakeButtons();
     AddShortcuts();
+    resize(sizeHint().width(), FirstHeight);
     m_page->setFocus();
-}
-
-ReportWindow::~ReportWindow() {
-    m_page->setDocument(nullptr); // it goes before the view does
-}
-
-// The page is filled when it is seen: what stands in it before is laid out several times on the way.
-void ReportWindow::showEvent(QShowEvent* event) {
-    QDialog::showEvent(event);
-    if (m_isFilled)
-        return;
-    m_isFilled = true;
-    QTimer::singleShot(0, this, [this] { m_document.ShowPage(m_report.html); });
-}
-
-void ReportWindow::MakePage() {
-    m_page = new PaperView;
-    m_page->setAccessibleName(windowTitle());
-    m_document.setDocumentMargin(PaperMargin);
-    m_page->setFont(m_document.defaultFont()); // what a zoom starts from
-    m_page->setDocument(&m_document);
-    auto* middle = new QHBoxLayout;
-    middle->addWidget(m_page);
-    qobject_cast<QBoxLayout*>(layout())->addLayout(middle, 1);
 }
 
 void ReportWindow::MakeButtons() {
@@ -136,9 +96,8 @@ void ReportWindow::AddShortcuts() {
 }
 
 void ReportWindow::Zoom(int step) {
-    const int zoom = std::clamp(m_zoom + step, LeastZoom, MostZoom);
-    m_page->zoomIn(zoom - m_zoom);
-    m_zoom = zoom;
+    m_zoom = std::clamp(m_zoom + step, LeastZoom, MostZoom);
+    m_page->SetScale(1 + m_zoom * ZoomStep);
 }
 
 // Proposes a file beside the standard's own.

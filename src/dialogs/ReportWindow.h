@@ -1,14 +1,13 @@
 // Shows a standard's report: where there is no printer, in its stead.
 #pragma once
 
-#include "files/ReportDocument.h"
+#include "dialogs/ReportView.h"
 #include "files/ReportPages.h"
 
 #include <QDialog>
 #include <functional>
 
 class QLabel;
-class QTextBrowser;
 
 // What is shown, saved and printed.
 struct Report {
@@ -26,19 +25,15 @@ class ReportWindow : public QDialog {
     Q_OBJECT
 
 public:
-    explicit ReportWindow(const Report& report, QWidget* parent = nullptr);
-    ~ReportWindow() override;
+    // `page` is that of the report.
+    ReportWindow(const Report& report, std::unique_ptr<LaidOutReport> page, QWidget* parent = nullptr);
 
     // Prints the report; the window that is given is the one to ask questions over.
     std::function<void(const Report& report, QWidget* window)> Print;
     // The paper of a PDF file; asked when one is saved.
     std::function<QPageLayout()> Paper = StandardPaper;
 
-protected:
-    void showEvent(QShowEvent* event) override;
-
 private:
-    void MakePage();
     void MakeButtons();
     void AddShortcuts();
     void OnSave();
@@ -46,9 +41,7 @@ private:
     void Zoom(int step);
 
     Report m_report;
-    ReportDocument m_document;
-    QTextBrowser* m_page = nullptr; // the window owns both
+    ReportView* m_page; // the window owns both
     QLabel* m_state = nullptr;
     int m_zoom = 0; // in steps
-    bool m_isFilled = false;
 };

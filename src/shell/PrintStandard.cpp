@@ -40,21 +40,46 @@ bool TellFailure(const CString& path, const FileResult& result) {
     return result.ok;
 }
 
-// The report's page; empty, after a message, where it cannot be made. Missing pictures leave empty spots.
-Report MakeReport(CStandard& standard) {
-    Report report{{}, TemporaryFolder(), standard.Name};
-    const ReportFiles files = WriteReportFiles(standard, report.folder);
-    if (!TellFailure(files.xmlPath, files.xml) || !TellFailure(files.stylesheetPath, files.stylesheet))
-        return report;
-    const ReportPage page = RenderReportHtml(files.xmlPath, files.stylesheetPath);
-    if (!page.result)
-        ShowMessage(QDir::toNativeSeparators(files.xmlPath) + "\n\n" + page.result.reason);
-    report.html = page.html;
-    return report;
+// A report in the making.
+struct Draft {
+    Report report;
+    ReportFiles files;
+    ReportPage page;
+    std::unique_ptr<LaidOutReport> shown; // where it is to be
+};
+
+// Writes the files and the page that is made of them, which takes a while for a large standard.
+FileResult Make(CStandard& standard, bool isShown, Draft& draft, const ReportProgress& progress) {
+    draft.files = WriteReportFiles(standard, draft.report.folder);
+    if (!draft.files.xml || !draft.files.stylesheet)
+        return {};
+    draft.page = RenderReportHtml(draft.files.xmlPath, draft.files.stylesheetPath);
+    if (draft.page.result && isShown && progress(0, 0))
+        draft.shown = std::make_unique<LaidOutReport>(draft.page.html, draft.report.folder);
+    return progress(0, 0) ? FileResult() : FileFailure(ReportStopped);
 }
 
-void ShowReport(const Report& report, QWidget* parent) {
-    auto* window = new ReportWindow(report, parent);
+// The report's page; empty, after a message, where it cannot be made, or where the user has stopped it.
+// Missing pictures leave empty spots.
+Draft MakeReport(CStandard& standard, bool isShown, QWidget* parent) {
+    Draft draft;
+    draft.report = {{}, TemporaryFolder(), standard.Name};
+    const ReportWork work = [&](const ReportProgress& progress) {
+        return Make(standard, isShown, draft, progress);
+    };
+    if (!RunReportWork(LoadString(ReportWindowTitle).arg(draft.report.Stem()), work, parent))
+        return draft;
+    const ReportFiles& files = draft.files;
+    if (!TellFailure(files.xmlPath, files.xml) || !TellFailure(files.stylesheetPath, files.stylesheet))
+        return draft;
+    if (!draft.page.result)
+        ShowMessage(QDir::toNativeSeparators(files.xmlPath) + "\n\n" + draft.page.result.reason);
+    draft.report.html = draft.page.html;
+    return draft;
+}
+
+void ShowReport(Draft& draft, QWidget* parent) {
+    auto* window = new ReportWindow(draft.report, std::move(draft.shown), parent);
     window->Print = [](const Report& shown, QWidget* over) {
         if (CurrentAdapter()->HasPrinter())
             PrintReport(shown, PrintMode::WithDialog, over);
@@ -95,13 +120,14 @@ QPrinter& PrinterOfTool() {
 }
 
 void PrintStandard(CStandard& standard, PrintMode mode, QWidget* parent) {
-    const Report report = MakeReport(standard);
-    if (report.html.isEmpty())
+    const bool hasPrinter = CurrentAdapter()->HasPrinter();
+    Draft draft = MakeReport(standard, !hasPrinter, parent);
+    if (draft.report.html.isEmpty())
         return;
-    if (CurrentAdapter()->HasPrinter())
-        PrintReport(report, mode, parent);
+    if (hasPrinter)
+        PrintReport(draft.report, mode, parent);
     else
-        ShowReport(report, parent);
+        ShowReport(draft, parent);
 }
 
 void PrintReport(const Report& report, PrintMode mode, QWidget* parent) {

@@ -17,7 +17,6 @@
 #include <QPrinter>
 #include <QPushButton>
 #include <QRegularExpression>
-#include <QTextBrowser>
 #include <gtest/gtest.h>
 
 namespace {
@@ -116,7 +115,7 @@ TEST_F(PrintStandardTest, Print_WithoutPrinterTheReportIsShown) {
     ASSERT_TRUE(window);
     EXPECT_EQ(window->windowTitle(), "Report: Plates");
     EXPECT_FALSE(window->isModal());
-    const CString text = window->findChild<QTextBrowser*>()->toPlainText();
+    const CString text = window->findChild<ReportView*>()->Report().Text();
     EXPECT_TRUE(text.contains(LoadString(1945)));
     EXPECT_TRUE(text.contains(LoadString(2395)));
     EXPECT_EQ(folder.Names("tmp"), (CStringArray{"Plates.xml", "Standard.xsl", "resources"}));
@@ -212,18 +211,19 @@ TEST_F(PrintStandardTest, Print_ReportWindowPrintsWhereAPrinterHasCome) {
 TEST_F(PrintStandardTest, Print_ReportWindowIsZoomedAndClosedByKeys) {
     ReportWindow* window = Show();
     ASSERT_TRUE(window);
-    const auto* page = window->findChild<QTextBrowser*>();
-    const qreal points = page->document()->defaultFont().pointSizeF();
+    const auto* page = window->findChild<ReportView*>();
+    const auto hundredths = [page] { return qRound(page->Scale() * 100); };
+    EXPECT_EQ(hundredths(), 100);
     Gui::Key(*window, Qt::Key_Plus, Qt::ControlModifier);
     Gui::Key(*window, Qt::Key_Equal, Qt::ControlModifier);
-    EXPECT_EQ(page->document()->defaultFont().pointSizeF(), points + 2);
+    EXPECT_EQ(hundredths(), 118);
     Gui::Key(*window, Qt::Key_Minus, Qt::ControlModifier);
-    EXPECT_EQ(page->document()->defaultFont().pointSizeF(), points + 1);
+    EXPECT_EQ(hundredths(), 109);
     Gui::Key(*window, Qt::Key_0, Qt::ControlModifier);
-    EXPECT_EQ(page->document()->defaultFont().pointSizeF(), points);
+    EXPECT_EQ(hundredths(), 100);
     for (int step = 0; step < 40; ++step)
         Gui::Key(*window, Qt::Key_Minus, Qt::ControlModifier);
-    EXPECT_GE(page->document()->defaultFont().pointSizeF(), 6);
+    EXPECT_GE(hundredths(), 55);
     Gui::Key(*window, Qt::Key_Escape);
     EXPECT_EQ(Shown(), nullptr);
 }
