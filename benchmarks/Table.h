@@ -12,5 +12,5 @@ struct Figure {
     double bound;
 };
 
-// Prints the figures of each measure when they are there. Whether all keep their bounds.
+// Prints a line for each figure, as soon as it is there: name, value, bound. Whether all keep their bounds.
 bool PrintTable(std::initializer_list<std::vector<Figure> (*)()> measures);
