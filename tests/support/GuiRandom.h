@@ -71,7 +71,8 @@ private:
     void CloseDocument();
 
     void OpenAnother();
-    CString FreePath(); // of a file that no document has open
+    CString FreePath(); // of a file that no other document has open; empty where there is none
+    CStringArray Files() const;
     void BeginSave(const CString& path);
     void EndSave(CAdminModuleDoc* document, const CString& path); // the document may be closed by then
     CString UnmodifiedDiffers();
