@@ -67,6 +67,19 @@ TEST(KeepingPanes, WhatIsPendingIsNoChange) {
     EXPECT_FALSE(room.standard.CanUndo());
 }
 
+TEST(KeepingPanes, TheCustomChecksKeepACriticalityThatTheirPaneDoesNotShow) {
+    PaneRoom room;
+    Fill(room, 5);
+    room.Live(122)->Criticality = 3;
+    room.Show();
+    room.TakeUp();
+    room.Pane(122)->OnCriticalityChanged();
+    EXPECT_EQ(room.Live(122)->Criticality, 3u);
+    auto copy = CStandard::MakeCheck(122);
+    room.Pane(122)->FillCheck(*copy);
+    EXPECT_EQ(copy->Criticality, 3u);
+}
+
 TEST(KeepingPanes, ACopyOfACheckArrivesWhole) {
     PaneRoom source, target;
     Fill(source, 5);

@@ -171,6 +171,16 @@ TEST_F(StandardCheck, LoadingAnEmptyCheckClearsTheBoxes) {
     EXPECT_EQ(Pane().Criticality, 0u);
 }
 
+TEST_F(StandardCheck, ACheckWithoutANameDoesNotKeepTheOneThatStoodThere) {
+    Click(Custom);
+    const auto unnamed = CStandard::CloneCheck(*room.Live(101));
+    Gui::Type(Name(), "Acme");
+    Pane().LoadCheck(*unnamed);
+    EXPECT_EQ(Name().text(), "");
+    Pane().OnCriticalityChanged();
+    EXPECT_EQ(NameParameter().Values.Count, 0);
+}
+
 TEST_F(StandardCheck, LoadingWritesNothing) {
     Click(Iso);
     const int before = room.standard.GetHistoryIndex();
