@@ -9,13 +9,14 @@
 class WalkProcess {
 public:
     WalkProcess(const CString& mode, const CString& path); // starts it; see tests/walk/Main.cpp
-    ~WalkProcess() { Kill(); }
+    ~WalkProcess();
 
-    // The next line without its end; a null text where none comes within the time or the process has ended.
-    CString NextLine(int limitMs = 60000);
+    // The next line without its end, however long it takes; a null text where the process has ended.
+    CString NextLine();
     // Reads on until it is ready for what the test wants of it. False where it ends before.
     bool WaitUntilReady(CStringArray& told);
-    void Kill();
+    // False where it had ended by itself, which is never right. What it told before can still be read.
+    bool Kill();
 
 private:
     QProcess m_process;

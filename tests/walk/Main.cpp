@@ -2,7 +2,8 @@
 // and temporary folders from its environment, and ends with the process that has started it.
 //   walk SEED FOLDER   opens the standards of the folder and gives random commands until it is killed
 //   walk --hold FILE   keeps a standard open until it is killed
-// It tells, a line each: "opened|saving|saved NAME DIGEST", "ready", and "wrong ..." for what should not be.
+// It tells, a line each: "opened|saving|saved NAME DIGEST", "ready", after each command "done", and "wrong"
+// with what should not be.
 #include "platform/widgets/Look.h"
 #include "support/Gui.h"
 #include "support/GuiRandom.h"
@@ -35,12 +36,12 @@ int Walk(unsigned seed, const CString& folder) {
     for (const CAdminModuleDoc* document : walk.Tool().App().GetDocuments())
         if (!document->GetUserPath().isEmpty())
             TellOfFile("opened", document->GetUserPath(), LiveTextOf(document->GetStandard()));
-    Tell("ready");
-    for (;;) {
+    for (const char* done = "ready";; done = "done") {
         if (const CString wrong = walk.WhatIsWrong(); !wrong.isEmpty()) {
-            Tell("wrong " + wrong + walk.LastCommands());
+            Tell(CString("wrong " + wrong + walk.LastCommands()).replace('\n', '|'));
             return 1;
         }
+        Tell(done);
         walk.Step();
     }
 }
