@@ -4102,6 +4102,81 @@ What stood there before is untouched, and your changes stay in the open standard
         <extracomment>Pane of a check: what it requires.</extracomment>
         <translation>The assembly must not contain hidden components.</translation>
     </message>
+    <message id="62120">
+        <source>Comparison of %1</source>
+        <extracomment>Pane of a check: name of the box of operators; %1 is the parameter.</extracomment>
+        <translation>Comparison of %1</translation>
+    </message>
+    <message id="1080.1000">
+        <source>&amp;Document units</source>
+        <extracomment>Choice in the panes of the font checks: the text height is given in the length unit.</extracomment>
+        <translation>&amp;Document units</translation>
+    </message>
+    <message id="1080.1001">
+        <source>&amp;Text height</source>
+        <extracomment>Label in the panes of the font checks. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
+        <translation>&amp;Text height</translation>
+    </message>
+    <message id="1080.1003">
+        <source>Text spacin&amp;g</source>
+        <extracomment>Label in the panes of the font checks.</extracomment>
+        <translation>Text spacin&amp;g</translation>
+    </message>
+    <message id="1080.1005">
+        <source>&amp;Points</source>
+        <extracomment>Choice in the panes of the font checks: the text height is given in points.</extracomment>
+        <translation>&amp;Points</translation>
+    </message>
+    <message id="1080.1006">
+        <source>Text height &amp;in points</source>
+        <extracomment>Label in the panes of the font checks.</extracomment>
+        <translation>Text height &amp;in points</translation>
+    </message>
+    <message id="1080.1007">
+        <source>Strike&amp;out</source>
+        <extracomment>Label in the panes of the font checks.</extracomment>
+        <translation>Strike&amp;out</translation>
+    </message>
+    <message id="1080.1008">
+        <source>&amp;Underline</source>
+        <extracomment>Label in the panes of the font checks.</extracomment>
+        <translation>&amp;Underline</translation>
+    </message>
+    <message id="1080.1009">
+        <source>Height given in</source>
+        <extracomment>Label in the panes of the font checks: in front of the two choices.</extracomment>
+        <translation>Height given in</translation>
+    </message>
+    <message id="1080.1068">
+        <source>Use the font of the docu&amp;ment</source>
+        <extracomment>Box in the panes of the font checks of dimensions and annotations.</extracomment>
+        <translation>Use the font of the docu&amp;ment</translation>
+    </message>
+    <message id="1080.1136">
+        <source>Font &amp;name</source>
+        <extracomment>Label in the panes of the font checks.</extracomment>
+        <translation>Font &amp;name</translation>
+    </message>
+    <message id="1080.1137">
+        <source>Font &amp;style</source>
+        <extracomment>Label in the panes of the font checks.</extracomment>
+        <translation>Font &amp;style</translation>
+    </message>
+    <message id="1080.1138">
+        <source>pt</source>
+        <extracomment>Unit in the panes of the font checks: points.</extracomment>
+        <translation>pt</translation>
+    </message>
+    <message id="1080.1240">
+        <source>&amp;Apply</source>
+        <extracomment>Button of the dialog that adds font checks: adds them and leaves the dialog open.</extracomment>
+        <translation>&amp;Apply</translation>
+    </message>
+    <message id="1080.1243">
+        <source>Checks to add</source>
+        <extracomment>Heading in the dialog that adds font checks, over the boxes of the checks.</extracomment>
+        <translation>Checks to add</translation>
+    </message>
     <message id="1325.1000">
         <source>Units</source>
         <extracomment>Heading on the options page.</extracomment>

@@ -1,5 +1,6 @@
 #include "dialogs/PaneFactory.h"
 
+#include "dialogs/FontPanes.h"
 #include "dialogs/KeepingCheckDlg.h"
 #include "dialogs/PlainPanes.h"
 #include "dialogs/StandardCheckDlg.h"
@@ -7,18 +8,23 @@
 #include <algorithm>
 #include <iterator>
 #include <string_view>
+#include <type_traits>
 
 namespace {
 
 using Pane = std::unique_ptr<CExtDialog>;
 
-template <class Class> Pane Make(EditingHost& host) {
-    return std::make_unique<Class>(host);
+// A class that serves several checks is told which.
+template <class Class> Pane Make(EditingHost& host, MQC_CheckType_e type) {
+    if constexpr (std::is_constructible_v<Class, EditingHost&, MQC_CheckType_e>)
+        return std::make_unique<Class>(host, type);
+    else
+        return std::make_unique<Class>(host);
 }
 
 struct PaneClass {
     std::string_view name;
-    Pane (*make)(EditingHost& host);
+    Pane (*make)(EditingHost& host, MQC_CheckType_e type);
 };
 
 constexpr PaneClass Classes[] = {
@@ -41,6 +47,9 @@ constexpr PaneClass Classes[] = {
     {"CSupFeatDlg", Make<CSupFeatDlg>},
     {"CFeaturePositioningDlg", Make<CFeaturePositioningDlg>},
     {"CHiddenCompDlg", Make<CHiddenCompDlg>},
+    {"CDocFontCheckDlg", Make<CDocFontCheckDlg>},
+    {"CDimFontDlg", Make<CDimFontDlg>},
+    {"CAnntFontDlg", Make<CAnntFontDlg>},
 };
 
 // The numbers of a pane that keeps the values of its check.
@@ -52,15 +61,12 @@ struct KeepingPane {
 };
 
 constexpr KeepingPane KeepingPanes[] = {
-    {102, 1145, 1579, 1002}, {105, 1146, 1723, 1003}, {108, 1147, 1662, 1004}, {109, 1149, 1908, 1006},
-    {110, 1157, 1916, 1014}, {111, 1150, 1909, 1007}, {119, 1253, 2185, 1015}, {112, 1151, 1910, 1008},
-    {120, 1254, 2189, 1016}, {113, 1152, 1911, 1009}, {114, 1153, 1912, 1010}, {115, 1154, 1913, 1011},
-    {116, 1155, 1914, 1012}, {117, 1156, 1915, 1013}, {122, 1403, 1964, 1018}, {123, 1408, 139, 1019},
-    {127, 1438, 2425, 1020}, {201, 1158, 1584, 1101}, {202, 1159, 1715, 1102}, {402, 1162, 1580, 1202},
-    {403, 1161, 1699, 1203}, {405, 1164, 1689, 1204}, {408, 1259, 2272, 1207}, {409, 1258, 2273, 1208},
-    {302, 1167, 1605, 1301}, {303, 1169, 1582, 1302}, {310, 1166, 1925, 1304}, {312, 1265, 1743, 1306},
-    {314, 1407, 1759, 1308}, {501, 1171, 1822, 1401}, {503, 1264, 1740, 1402}, {601, 1175, 2017, 1501},
-    {603, 1173, 1585, 1503}, {604, 1176, 1713, 1504}, {607, 1406, 1753, 1506}, {608, 32960, 32939, 1506},
+    {102, 1145, 1579, 1002}, {105, 1146, 1723, 1003}, {108, 1147, 1662, 1004},   {122, 1403, 1964, 1018},
+    {123, 1408, 139, 1019},  {127, 1438, 2425, 1020}, {201, 1158, 1584, 1101},   {402, 1162, 1580, 1202},
+    {405, 1164, 1689, 1204}, {408, 1259, 2272, 1207}, {409, 1258, 2273, 1208},   {302, 1167, 1605, 1301},
+    {303, 1169, 1582, 1302}, {310, 1166, 1925, 1304}, {312, 1265, 1743, 1306},   {314, 1407, 1759, 1308},
+    {501, 1171, 1822, 1401}, {503, 1264, 1740, 1402}, {601, 1175, 2017, 1501},   {603, 1173, 1585, 1503},
+    {604, 1176, 1713, 1504}, {607, 1406, 1753, 1506}, {608, 32960, 32939, 1506},
 };
 
 } // namespace
@@ -69,7 +75,7 @@ std::unique_ptr<CExtDialog> MakePane(EditingHost& host, const PageCheckRow& row)
     const auto made =
         std::ranges::find_if(Classes, [&](const PaneClass& pane) { return pane.name == row.dialogClass; });
     if (made != std::end(Classes))
-        return made->make(host);
+        return made->make(host, row.type);
     const auto kept = std::ranges::find(KeepingPanes, row.type, &KeepingPane::type);
     if (kept == std::end(KeepingPanes))
         return nullptr;

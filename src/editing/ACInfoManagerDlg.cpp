@@ -2,7 +2,12 @@
 #include "editing/CorrectionRules.h"
 #include "editing/ExtDialog.h"
 #include "editing/MyStatic.h"
+#include "platform/Format.h"
 #include "platform/LanguageLibrary.h"
+
+#include <QComboBox>
+#include <QLineEdit>
+#include <QSpinBox>
 
 namespace {
 
@@ -45,4 +50,21 @@ void CACInfoManagerDlg::RefreshCorrectionControl(CCheck& scratch, unsigned param
 void CACInfoManagerDlg::StoreCorrections(CCheck& check) {
     for (const auto& [parameterID, control] : CorrectionControls)
         StoreCorrectionValue(check, parameterID, control->Choices);
+}
+
+void CACInfoManagerDlg::GuardLessThanBound(int operatorCombo, int valueControl) {
+    const auto* combo = GetDlgItem<QComboBox>(operatorCombo);
+    if (!combo || combo->currentText() != u"<")
+        return;
+    const auto isAboveZero = [](const CString& text) {
+        double number = 0;
+        ParseDouble(text, number);
+        return number > 0;
+    };
+    if (auto* edit = GetDlgItem<QLineEdit>(valueControl); edit && !isAboveZero(edit->text()))
+        edit->setText("1");
+    if (auto* box = GetDlgItem<QSpinBox>(valueControl); box && box->value() <= 0)
+        box->setValue(1);
+    if (auto* list = GetDlgItem<QComboBox>(valueControl); list && !isAboveZero(list->currentText()))
+        list->setEditText("1");
 }

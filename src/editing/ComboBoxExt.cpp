@@ -23,9 +23,9 @@ void CComboBoxExt::AddRow(const CString& text, unsigned bitmap) {
         setIconSize(iconSize().expandedTo(Look::BitmapSizeOf(bitmap)));
 }
 
-// The row may be cut in a narrow column; its text is told in full.
+// The row may be cut in a narrow column; its text is told in full. What was typed need not be a row.
 void CComboBoxExt::ShowTooltip() {
-    setToolTip(currentText());
+    setToolTip(isEditable() ? CString() : currentText());
 }
 
 int CComboBoxExt::PopupWidth() const {

@@ -1,15 +1,47 @@
 #include "editing/ComparisonPair.h"
 
 #include "engines/TextServices.h"
+#include "engines/TrailingZeros.h"
 #include "engines/UIUtilities.h"
 #include "engines/ValidateEngine.h"
+#include "platform/Format.h"
+#include "platform/LanguageLibrary.h"
 
 #include <QComboBox>
+#include <QFocusEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QScopedValueRollback>
 
 namespace {
+
+constexpr unsigned ComparisonOf = 62120; // %1 the parameter
+constexpr int ShownDecimals = 6;
+
+CString ListText(const CGrowArray<double>& values) {
+    CString text;
+    for (const double value : values) {
+        text += (text.isEmpty() ? CString() : CString(" , ")) + FormatFixed(value, ShownDecimals);
+        StripTrailingZeros(text);
+    }
+    return text;
+}
+
+// Both bounds of a range: a single one is the lower and the upper.
+CString WithBothBounds(const CString& entered) {
+    CString text = entered;
+    if (entered.trimmed().endsWith(u',')) {
+        text = entered.trimmed();
+        text.chop(1);
+    }
+    return text.contains(u',') ? text : text + u',' + text;
+}
+
+// Whether the field lost the keyboard for good, and not to a menu that is opened over it.
+bool IsLeft(const QEvent& event) {
+    const Qt::FocusReason reason = static_cast<const QFocusEvent&>(event).reason();
+    return reason != Qt::PopupFocusReason && reason != Qt::MenuBarFocusReason;
+}
 
 // Whether the key opens the list, in which a choice is made at leisure.
 bool OpensList(const QKeyEvent& event) {
@@ -24,6 +56,7 @@ ComparisonPair::ComparisonPair(QComboBox* comparison, QLineEdit* value, bool isL
     connect(comparison, &QComboBox::activated, this, &ComparisonPair::OnOperatorChosen);
     connect(value, &QLineEdit::textEdited, this, &ComparisonPair::OnValueEdited);
     comparison->installEventFilter(this);
+    value->installEventFilter(this);
 }
 
 void ComparisonPair::Fill(const QList<unsigned>& operators) {
@@ -60,15 +93,39 @@ void ComparisonPair::Show(unsigned comparison, const CString& value) {
     SetEnabled(true);
 }
 
+void ComparisonPair::Load(const CParameter<double>& parameter) {
+    Show(parameter.Operator, parameter.Operator == OpNone ? CString() : ListText(parameter.Values));
+}
+
+void ComparisonPair::Store(CParameter<double>& parameter) const {
+    parameter.ClearValues();
+    parameter.Operator = Operator();
+    for (const CString& token : Values()) {
+        double value = 0;
+        if (ParseDouble(token, value))
+            parameter.Values.Add(value);
+    }
+}
+
+void ComparisonPair::SetName(const CString& name) {
+    m_comparison->setAccessibleName(LoadString(ComparisonOf).arg(name));
+    m_value->setAccessibleName(name);
+}
+
 void ComparisonPair::SetEnabled(bool isEnabled) {
     m_comparison->setEnabled(isEnabled);
     m_value->setEnabled(isEnabled && m_comparison->currentIndex() > 0);
 }
 
 bool ComparisonPair::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::KeyPress)
+    const bool isValue = watched == m_value;
+    if (isValue && event->type() == QEvent::FocusOut && IsLeft(*event))
+        OnValueCompleted();
+    else if (isValue && event->type() == QEvent::ToolTip)
+        m_value->setToolTip(m_value->text().toHtmlEscaped().prepend("<qt>")); // a long one is wrapped
+    else if (!isValue && event->type() == QEvent::KeyPress)
         m_isByKey = !OpensList(static_cast<QKeyEvent&>(*event));
-    else if (event->type() == QEvent::MouseButtonPress)
+    else if (!isValue && event->type() == QEvent::MouseButtonPress)
         m_isByKey = false;
     return QObject::eventFilter(watched, event);
 }
@@ -112,4 +169,19 @@ void ComparisonPair::OnValueEdited() {
     SetValueText(text);
     Q_EMIT Changed();
     m_value->setFocus();
+}
+
+// A comparison without a value is none; a range has two bounds.
+void ComparisonPair::OnValueCompleted() {
+    if (!m_value->isEnabled() || m_isChecking)
+        return;
+    const CString text = m_value->text();
+    if (text.isEmpty()) {
+        m_comparison->setCurrentIndex(0);
+        m_value->setEnabled(false);
+        Q_EMIT Changed();
+    } else if (const CString whole = Operator() == OpBetween ? WithBothBounds(text) : text; whole != text) {
+        m_value->setText(whole);
+        Q_EMIT Changed();
+    }
 }

@@ -1,6 +1,7 @@
 // The box of a comparison operator and the box of the value beside it, which it watches while the user types.
 #pragma once
 
+#include "model/Parameter.h"
 #include "platform/Text.h"
 
 #include <QList>
@@ -29,6 +30,15 @@ public:
     // Shows an operator and a value and tells nobody. An operator that is not on offer is shown as none.
     void Show(unsigned comparison, const CString& value);
 
+    // Shows a parameter and tells nobody: its numbers to six decimals, with commas between them.
+    void Load(const CParameter<double>& parameter);
+
+    // Writes what the boxes show; a part of the text that does not read as a number is left out.
+    void Store(CParameter<double>& parameter) const;
+
+    // The parameter's name, for those who do not see the boxes.
+    void SetName(const CString& name);
+
     // Enables the boxes by the operator that is shown; both are disabled with `isEnabled` clear.
     void SetEnabled(bool isEnabled);
 
@@ -41,6 +51,7 @@ protected:
 private:
     void OnOperatorChosen();
     void OnValueEdited();
+    void OnValueCompleted();
     void SetValueText(const CString& text);
 
     QPointer<QComboBox> m_comparison;

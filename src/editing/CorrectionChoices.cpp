@@ -29,6 +29,10 @@ bool IsReadable(const CString& text) {
 
 } // namespace
 
+bool CorrectionChoices::TakesWords() const {
+    return !IsNumber() || (!Strings.isEmpty() && !IsReadable(Strings[0]));
+}
+
 CString CorrectionChoices::ChoiceAt(qsizetype index) const {
     if (index < 0 || index >= Count())
         return {};
@@ -168,7 +172,8 @@ void CorrectionChoices::Select(qsizetype index) {
 bool CorrectionChoices::NumberSatisfies(const CString& entered) const {
     const bool isFirst = entered == Strings[0];
     if (!IsReadable(entered))
-        return Operator == OpEqual && isFirst; // such as the word of a yes-or-no value
+        return Operator == OpOneOf ? IndexOf(entered) >= 0 // such as the word of a font style
+                                   : Operator == OpEqual && isFirst;
     const double number = Number(entered), bound = Number(Strings[0]);
     switch (Operator) {
     case OpBetween: return Strings.size() != 2 || LiesBetween(number);

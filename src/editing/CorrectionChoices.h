@@ -18,6 +18,8 @@ struct CorrectionChoices {
     int EntryStyle = NumberEntry;
 
     bool ShowsImages() const { return EntryStyle == ImageEntry || EntryStyle >= FurtherImageEntry; }
+    // Whether the choices are words, which are never typed into a field of numbers.
+    bool TakesWords() const;
     qsizetype Count() const { return ShowsImages() ? Numbers.size() : Strings.size(); }
     CString ChoiceAt(qsizetype index) const;      // the value that choosing this entry gives
     qsizetype IndexOf(const CString& text) const; // without regard to case; -1 where it is no choice

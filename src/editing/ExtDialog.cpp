@@ -1,6 +1,7 @@
 #include "editing/ExtDialog.h"
 
 #include "editing/ComboBoxExt.h"
+#include "editing/CriticalityRows.h"
 #include "editing/ExACRichEdit.h"
 #include "editing/GroupBoxExt.h"
 #include "editing/MyStatic.h"
@@ -10,23 +11,18 @@
 #include "editing/PaneControls.h"
 #include "engines/UnitConvertor.h"
 #include "engines/UnitText.h"
-#include "platform/Format.h"
 #include "platform/LanguageLibrary.h"
 #include "platform/widgets/Look.h"
 
 #include <QApplication>
 #include <QLineEdit>
 #include <QPainter>
-#include <QSpinBox>
-#include <iterator>
 
 namespace {
 
 constexpr unsigned CustomChecksText = 1964;
 constexpr MQC_CheckType_e CustomChecks = 122; // each of its rows has a criticality of its own
 constexpr unsigned HelpTopicCommand = 15;
-constexpr unsigned CriticalityTexts[] = {2267, 2268, 2269, 2270};
-constexpr unsigned CriticalityIcons[] = {1425, 1424, 1426, 1427};
 constexpr int PositionUnit = 20; // pixels of height
 // All panes are of one width, for the page keeps them at the width of the first that was made.
 constexpr int LeastWidth = 740;
@@ -86,8 +82,7 @@ void CExtDialog::FillCriticalityCombo() {
     if (!combo)
         return;
     if (Caption.compare(LoadString(CustomChecksText), Qt::CaseInsensitive) != 0) {
-        for (std::size_t i = 0; i < std::size(CriticalityTexts); ++i)
-            combo->addItem(Look::SmallIconOf(CriticalityIcons[i]), LoadString(CriticalityTexts[i]));
+        FillCriticalityRows(*combo);
         combo->setCurrentIndex(static_cast<int>(Criticality));
     }
     Connect(CriticalityControl, ControlEvent::SelChange, [this, combo] {
@@ -123,24 +118,7 @@ void CExtDialog::LoadCheck(const CCheck& check) {
         return;
     Criticality = check.Criticality;
     if (auto* combo = GetDlgItem<QComboBox>(CriticalityControl))
-        combo->setCurrentIndex(Criticality < std::size(CriticalityTexts) ? static_cast<int>(Criticality) : 1);
-}
-
-void CExtDialog::GuardLessThanBound(int operatorCombo, int valueControl) {
-    const auto* combo = GetDlgItem<QComboBox>(operatorCombo);
-    if (!combo || combo->currentText() != u"<")
-        return;
-    const auto isAboveZero = [](const CString& text) {
-        double number = 0;
-        ParseDouble(text, number);
-        return number > 0;
-    };
-    if (auto* edit = GetDlgItem<QLineEdit>(valueControl); edit && !isAboveZero(edit->text()))
-        edit->setText("1");
-    if (auto* box = GetDlgItem<QSpinBox>(valueControl); box && box->value() <= 0)
-        box->setValue(1);
-    if (auto* list = GetDlgItem<QComboBox>(valueControl); list && !isAboveZero(list->currentText()))
-        list->setEditText("1");
+        combo->setCurrentIndex(RowOfCriticality(Criticality));
 }
 
 int CExtDialog::GetDisplayHeight() const {

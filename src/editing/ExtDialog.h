@@ -34,6 +34,9 @@ public:
 
     const std::map<unsigned, CMyStatic*>& GetCorrectionControls() const { return CorrectionControls; }
 
+    // For boxes with a number that must lie below a bound: under "<" what is not above zero becomes 1.
+    void GuardLessThanBound(int operatorCombo, int valueControl);
+
 protected:
     EditingHost& GetHost() const { return m_host; }
 
@@ -114,9 +117,6 @@ protected:
     virtual unsigned HelpTopic() const { return 0; } // 0: none
     // The user chose another criticality, which stands in `Criticality` already.
     virtual void OnCriticalityChosen() { OnCriticalityChanged(); }
-
-    // For boxes with a number that must lie below a bound: under "<" what is not above zero becomes 1.
-    void GuardLessThanBound(int operatorCombo, int valueControl);
 
     bool event(QEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;

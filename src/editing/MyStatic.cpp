@@ -71,20 +71,19 @@ void CMyStatic::SetChoices(const CorrectionChoices& record) {
 bool CMyStatic::UsesList() const {
     if (Choices.ShowsImages())
         return true;
-    const qsizetype least = Choices.EntryStyle == NumberEntry ? 2 : 1;
-    return Choices.Operator == OpOneOf && Choices.Count() >= least;
+    return Choices.Operator == OpOneOf && Choices.Count() >= (Choices.TakesWords() ? 1 : 2);
 }
 
 // What must equal one text can be corrected to that text alone.
 bool CMyStatic::IsFixed() const {
-    double number = 0;
-    return Choices.Operator == OpEqual && Choices.Count() > 0 &&
-           (Choices.EntryStyle != NumberEntry || !ParseDouble(Choices.Strings[0], number));
+    return Choices.Operator == OpEqual && Choices.Count() > 0 && Choices.TakesWords();
 }
 
 void CMyStatic::RefreshDisplay() {
     const QScopedValueRollback<bool> showing(m_isShowing, true);
-    const CString text = Choices.Operator == OpNone ? CString() : Choices.MakeDisplayText();
+    const CString value = Choices.Operator == OpNone ? CString() : Choices.MakeDisplayText();
+    // The value behind a word may be kept as the number of the word.
+    const CString text = IsFixed() ? Choices.Strings[0] : value;
     const bool usesList = UsesList();
     if (usesList)
         FillList();

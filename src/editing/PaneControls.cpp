@@ -1,7 +1,9 @@
 #include "editing/PaneControls.h"
 
+#include "editing/ChoiceList.h"
 #include "editing/ComboBoxExt.h"
 #include "editing/ExtRichEditCtrl.h"
+#include "editing/FontList.h"
 #include "editing/GroupBoxExt.h"
 #include "editing/MyStatic.h"
 #include "editing/PaneLabels.h"
@@ -14,8 +16,10 @@ template <class Control> void Register(const char* name) {
 }
 
 bool RegisterAll() {
+    Register<CChoiceList>("CChoiceList");
     Register<CComboBoxExt>("CComboBoxExt");
     Register<CExtRichEditCtrl>("CExtRichEditCtrl");
+    Register<CFontList>("CFontList");
     Register<CGroupBoxExt>("CGroupBoxExt");
     Register<CFaintLine>("CFaintLine");
     Register<CHeading>("CHeading");

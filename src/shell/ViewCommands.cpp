@@ -1,4 +1,5 @@
 // The commands of a document's pages.
+#include "dialogs/DocFontCheckPopUpDlg.h"
 #include "editing/CheckPropertySheet.h"
 #include "editing/PageDialog.h"
 #include "shell/AdminModView.h"
@@ -86,8 +87,15 @@ void CAdminModView::OnCheckCommand(unsigned id) {
     }
 }
 
+// A font check that is missing is asked for together with others like it.
 void CAdminModView::OnFontCheckCommand(CPDCheckInfo& info) {
-    ToggleCheck(info, nullptr);
+    if (info.IsActive()) {
+        ToggleCheck(info, nullptr);
+        return;
+    }
+    ActivatePage(ChecksPage);
+    CDocFontCheckPopUpDlg(*this, info.GetCheckType(), this).DoModal();
+    m_checks->setFocus();
 }
 
 void CAdminModView::ToggleCheck(CPDCheckInfo& info, const CCheck* source) {

@@ -3,6 +3,7 @@
 
 #include "editing/PageSheet.h"
 #include "engines/ActiveUnit.h"
+#include "platform/LanguageLibrary.h"
 
 #include <QCheckBox>
 #include <QLineEdit>
@@ -64,9 +65,18 @@ TEST_F(ViewCommands, TheKeyForUndoInAFieldUndoesAStepOfTheStandard) {
     EXPECT_EQ(field.text(), "A");
 }
 
-TEST_F(ViewCommands, AFontCommandAddsAndRemovesItsCheck) {
+TEST_F(ViewCommands, AFontCommandAsksAndAddsOrRemovesItsCheck) {
+    View().ActivatePage(SummaryPage);
+    const Gui::Answer cancel([](QWidget& dialog) { Gui::PressButton(dialog, LoadString(2144)); });
     Send(AddNoteFont);
+    EXPECT_TRUE(cancel.WasAnswered());
+    EXPECT_EQ(Live(NoteFont), nullptr);
+    EXPECT_EQ(View().GetSheet().GetActivePage(), ChecksPage);
+    const Gui::Answer add([](QWidget& dialog) { Gui::PressButton(dialog, LoadString(2143)); });
+    Send(AddNoteFont);
+    EXPECT_TRUE(add.WasAnswered());
     EXPECT_NE(Live(NoteFont), nullptr);
+    EXPECT_TRUE(Page().hasFocus());
     Send(AddNoteFont);
     EXPECT_EQ(Live(NoteFont), nullptr);
 }

@@ -1,5 +1,6 @@
 #include "support/GuiTool.h"
 
+#include "platform/LanguageLibrary.h"
 #include "platform/widgets/MessageBoxes.h"
 #include "shell/CatalogueButton.h"
 #include "shell/TabToolbar.h"
@@ -9,6 +10,7 @@
 #include <QApplication>
 #include <QFile>
 #include <QTabBar>
+#include <optional>
 
 GuiTool::GuiTool(QSize size)
     : m_app(std::make_unique<CAdminModuleApp>(
@@ -52,6 +54,10 @@ void GuiTool::PressCheck(MQC_CheckType_e pageType) {
     QWidget* button = Gui::FindNumber(bar, static_cast<int>(row->commandID));
     if (!button)
         qFatal("No button for check %d.", pageType);
+    // Document fonts are added by a dialog, which offers the check that was asked for.
+    std::optional<Gui::Answer> addFonts;
+    if (row->dialogTemplateID == 1080 && !Page().GetTable().Find(pageType)->IsActive())
+        addFonts.emplace([](QWidget& dialog) { Gui::PressButton(dialog, LoadString(2143)); });
     Gui::Click(*button);
 }
 

@@ -1,0 +1,68 @@
+#include "editing/ChoiceList.h"
+
+#include <QHash>
+#include <algorithm>
+
+namespace {
+
+constexpr int LeastWidth = 120;
+
+} // namespace
+
+QSize CChoiceList::RowDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const {
+    return {QStyledItemDelegate::sizeHint(option, index).width(), RowHeight};
+}
+
+CChoiceList::CChoiceList(QWidget* parent) : QListWidget(parent) {
+    setItemDelegate(new RowDelegate(this));
+    setSelectionMode(MultiSelection);
+    setUniformItemSizes(true); // thousands of rows are never measured one by one
+    setVerticalScrollMode(ScrollPerItem);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    setResizeMode(Adjust);
+}
+
+CStringArray CChoiceList::ChosenTexts() const {
+    QModelIndexList chosen = selectionModel()->selectedIndexes();
+    std::ranges::sort(chosen, {}, &QModelIndex::row);
+    CStringArray texts;
+    for (const QModelIndex& index : chosen)
+        texts.append(index.data().toString());
+    return texts;
+}
+
+void CChoiceList::Choose(const CStringArray& texts, bool addsMissing) {
+    QHash<CString, int> rows;
+    for (int row = count() - 1; row >= 0; --row)
+        rows.insert(item(row)->text(), row);
+    QItemSelection chosen;
+    int first = count() + static_cast<int>(texts.size());
+    for (const CString& text : texts) {
+        if (addsMissing && !rows.contains(text)) {
+            rows.insert(text, count());
+            addItem(text);
+        }
+        if (const auto found = rows.constFind(text); found != rows.constEnd()) {
+            const QModelIndex index = model()->index(*found, 0);
+            chosen.select(index, index);
+            first = qMin(first, *found);
+        }
+    }
+    selectionModel()->select(chosen, QItemSelectionModel::ClearAndSelect);
+    if (QListWidgetItem* const topmost = item(first))
+        scrollToItem(topmost, PositionAtTop);
+}
+
+QSize CChoiceList::sizeHint() const {
+    const int room = m_columns > 1 ? 2 : 0; // a column that is filled to the last pixel would be broken early
+    return {LeastWidth, m_visibleRows * RowHeight + room + 2 * frameWidth()};
+}
+
+void CChoiceList::resizeEvent(QResizeEvent* event) {
+    if (m_columns > 1) {
+        setWrapping(true);
+        setGridSize({viewport()->width() / m_columns, RowHeight});
+    }
+    QListWidget::resizeEvent(event);
+}
