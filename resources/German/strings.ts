@@ -1336,7 +1336,7 @@
     <message id="1867">
         <source>Custom Properties</source>
         <extracomment>Button text: catalogue button of check type 104.</extracomment>
-        <translation>Benutzerdefinierte Eigenschaften</translation>
+        <translation>Benutzereigenschaften</translation>
     </message>
     <message id="1868">
         <source>Units</source>
@@ -1396,7 +1396,7 @@
     <message id="1879">
         <source>Geometric Tolerance Datums</source>
         <extracomment>Button text: catalogue button of check type 301.</extracomment>
-        <translation>Bezüge der Form- und Lagetoleranzen</translation>
+        <translation>Bezüge der Toleranzen</translation>
     </message>
     <message id="1880">
         <source>Overridden Dimensions</source>
@@ -1431,7 +1431,7 @@
     <message id="1886">
         <source>Bill of Materials Balloons</source>
         <extracomment>Button text: catalogue button of check type 309.</extracomment>
-        <translation>Positionsnummern der Stückliste</translation>
+        <translation>Stücklistenpositionen</translation>
     </message>
     <message id="1887">
         <source>Part Material</source>
@@ -1471,7 +1471,7 @@
     <message id="1894">
         <source>Overridden Mass Properties</source>
         <extracomment>Button text: catalogue button of check type 118.</extracomment>
-        <translation>Überschriebene Masseneigenschaften</translation>
+        <translation>Überschriebene Massenwerte</translation>
     </message>
     <message id="1895">
         <source>Standard Hole Sizes</source>
@@ -1481,7 +1481,7 @@
     <message id="1896">
         <source>Geometric Tolerance Font</source>
         <extracomment>Button text: catalogue button of check type 119.</extracomment>
-        <translation>Schriftart Form- und Lagetoleranzen</translation>
+        <translation>Schriftart Toleranzrahmen</translation>
     </message>
     <message id="1897">
         <source>Auxiliary View Label Font</source>
@@ -3506,7 +3506,7 @@
     <message id="32938">
         <source>Misaligned Concentric Mates</source>
         <extracomment>Button text: catalogue button of check type 608.</extracomment>
-        <translation>Versetzte konzentrische Verknüpfungen</translation>
+        <translation>Versetzte Verknüpfungen</translation>
     </message>
     <message id="32939">
         <source>Misaligned Concentric Mates</source>
@@ -4075,7 +4075,7 @@ Ihr bisheriger Inhalt ist unversehrt, und Ihre Änderungen bleiben im geöffnete
     <message id="62101">
         <source>The values of this check are shown on the Summary page and stay exactly as they are.</source>
         <extracomment>Pane of a check: its values cannot be edited in the pane, only its criticality.</extracomment>
-        <translation>Die Werte dieser Prüfung stehen auf der Seite „Zusammenfassung“ und bleiben genau so, wie sie sind.</translation>
+        <translation>Die Werte dieser Prüfung stehen auf der Seite „Übersicht“ und bleiben genau so, wie sie sind.</translation>
     </message>
     <message id="62102">
         <source>Correction of %1</source>

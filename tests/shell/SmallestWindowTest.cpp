@@ -1,6 +1,7 @@
 #include "model/Catalogue.h"
+#include "platform/LanguageLibrary.h"
+#include "platform/Settings.h"
 #include "support/GuiTool.h"
-#include "support/Language.h"
 
 #include <QComboBox>
 #include <QLabel>
@@ -11,12 +12,24 @@ namespace {
 
 constexpr QSize Smallest(1024, 700);
 
-class SmallestWindow : public testing::TestWithParam<const char*> {};
+void SetLanguage(const char* name) {
+    CCommonRegSetting settings;
+    settings.SetString("CurrentLanguage", name);
+    settings.WriteAll();
+}
+
+class SmallestWindow : public testing::TestWithParam<const char*> {
+protected:
+    SmallestWindow() { SetLanguage(GetParam()); }
+    ~SmallestWindow() override {
+        SetLanguage("English");
+        LoadLanguage(RULEWARD_BIN_FOLDER, "English");
+    }
+};
 
 } // namespace
 
 TEST_P(SmallestWindow, ShowsEveryPaneWhole) {
-    const Language language(GetParam());
     GuiTool tool(Smallest);
     for (const PageCheckRow& row : PageChecks())
         tool.Page().AddCheck(row.type, nullptr);
