@@ -1371,7 +1371,7 @@
     <message id="1874">
         <source>Surface Finish Symbol Font</source>
         <extracomment>Button text: catalogue button of check type 114.</extracomment>
-        <translation>Schriftart Oberflächensymbole</translation>
+        <translation>Schriftart Oberflächen</translation>
     </message>
     <message id="1875">
         <source>Weld Symbol Font</source>

@@ -1,6 +1,8 @@
 #include "model/Catalogue.h"
 #include "platform/LanguageLibrary.h"
 #include "platform/Settings.h"
+#include "shell/CatalogueButton.h"
+#include "shell/TabToolbar.h"
 #include "support/GuiTool.h"
 
 #include <QComboBox>
@@ -48,6 +50,17 @@ TEST_P(SmallestWindow, ShowsEveryPaneWhole) {
         ASSERT_NE(criticality, nullptr) << row.dialogClass;
         EXPECT_LE(criticality->mapTo(pane, QPoint(criticality->width(), 0)).x(), pane->width())
             << row.dialogClass;
+    }
+}
+
+TEST_P(SmallestWindow, ShowsEveryNameOfTheCatalogueWhole) {
+    GuiTool tool(Smallest);
+    for (unsigned group = 0; group < CheckGroups().size(); ++group) {
+        tool.Frame().GetTabToolbar().FocusGroup(group);
+        for (const CatalogueButton* button : tool.Frame().findChildren<CatalogueButton*>()) {
+            const int text = button->fontMetrics().horizontalAdvance(button->text());
+            EXPECT_GE(button->width(), CatalogueButton::TextAt + text) << button->text().toStdString();
+        }
     }
 }
 
