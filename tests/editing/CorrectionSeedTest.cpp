@@ -123,6 +123,18 @@ TYPED_TEST(CorrectionSeedNumbers, ASearchThatFindsAllNumbersTakenStoresNothing) 
     EXPECT_EQ(this->Seed(OpNoneOf, UpTo(1, 100)), 101);
 }
 
+TYPED_TEST(CorrectionSeedNumbers, ASearchWithoutAFreeNumberLeavesTheCorrectionAsItWas) {
+    for (const int kind : {CorrectionFixed, CorrectionAbsent}) {
+        CParameter<TypeParam>* parameter = nullptr;
+        auto scratch = CheckWith<TypeParam>(OpNoneOf, UpTo(1, 101), parameter);
+        parameter->Correction = TypeParam(55);
+        parameter->CorrectionKind = kind;
+        SeedCorrectionValue(CStandard(), *scratch, Id);
+        EXPECT_EQ(parameter->Correction, TypeParam(55));
+        EXPECT_EQ(parameter->CorrectionKind, kind);
+    }
+}
+
 TYPED_TEST(CorrectionSeedNumbers, NothingInForceHoldsNoCorrection) {
     EXPECT_EQ(this->Seed(OpNone, {3}, 3), std::nullopt);
     EXPECT_EQ(this->Seed(OpEqual, {}, 3), std::nullopt);

@@ -107,6 +107,22 @@ TEST_F(PageSelection, APlainClickEndsASelectionOfSeveral) {
     ExpectAgreement();
 }
 
+TEST_F(PageSelection, TheCurrentPaneSelectedAgainKeepsTheSelection) {
+    Fill();
+    ClickOn(References);
+    ClickOn(Datum, Qt::ControlModifier);
+    host.group = 0;
+    ClickOn(Datum);
+    page->SelectPane(Position(Datum));
+    EXPECT_EQ(Selected(), (Types{References, Datum}));
+    EXPECT_EQ(host.group, 0u);
+    page->SelectPane(Position(Datum) + 1); // no pane begins there
+    EXPECT_EQ(page->GetSelectedPosition(), Position(Datum));
+    page->SelectPane(Position(References));
+    EXPECT_EQ(Selected(), Types{References});
+    ExpectAgreement();
+}
+
 TEST_F(PageSelection, WhatThePaneHasNotWrittenYetIsCommitted) {
     Add({Datum, Arrowheads});
     Pane(Arrowheads).Criticality = 3;

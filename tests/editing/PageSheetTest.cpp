@@ -82,6 +82,30 @@ TEST(PageSheet, ACheckHasOneNameAndOneCriticality) {
     EXPECT_EQ(page.Grid().GetMergedCellsRowCol(1, 4), (GridRange{1, 4, 1, 4}));
 }
 
+TEST(PageSheet, ACheckThatSaysNothingIsOneRowOfDashes) {
+    Page page;
+    Set(page.source.Add(107), 1936, OpEqual, {"anything"}); // of a type that shows no values
+    Set(page.source.Add(109), 1700, OpNone, {"Arial"}, "Arial");
+    page.Activate();
+    EXPECT_EQ(page.sheet.LastRow, 2);
+    for (const int row : {1, 2}) {
+        EXPECT_FALSE(page.Text(row, 0).isEmpty());
+        for (const int col : {1, 2, 3})
+            EXPECT_EQ(page.Text(row, col), "--") << row << " " << col;
+        EXPECT_EQ(page.Grid().GetCellBitmap(row, 4), 1428u);
+        EXPECT_EQ(page.Text(row, 5), LoadString(2268));
+    }
+}
+
+TEST(PageSheet, SeveralPicturesAreCounted) {
+    Page page;
+    Set(page.source.Add(102), 1558, OpOneOf, {"1", "2", "3"}, "2");
+    page.Activate();
+    EXPECT_EQ(page.Text(1, 2), "3 " + LoadString(1940));
+    EXPECT_EQ(page.Grid().GetCellBitmap(1, 2), 0u);
+    EXPECT_EQ(page.Grid().GetCellBitmap(1, 3), 1125u);
+}
+
 TEST(PageSheet, CustomChecksHaveACriticalityEach) {
     Page page;
     CCheck& container = page.source.Add(122);
