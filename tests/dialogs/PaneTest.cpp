@@ -92,6 +92,21 @@ TEST_F(Pane, ExpandButtonCollapsesAndExpands) {
     EXPECT_TRUE(Combo(First()).isVisible());
 }
 
+TEST_F(Pane, TheExpandButtonIsSetRightByItsFirstUpdate) {
+    CExtDialog& pane = *Page().GetPane(313, true);
+    const auto& button = *pane.GetDlgItem<CHoverButton>(CExtDialog::ExpandControl);
+    EXPECT_EQ(button.Bitmap(), 1413u);
+    EXPECT_EQ(button.toolTip(), LoadString(1760));
+    EXPECT_TRUE(pane.Expanded);
+    room.Add(313);
+    Page().UpdateExpandButton(pane);
+    EXPECT_EQ(button.Bitmap(), 1415u);
+    EXPECT_EQ(button.toolTip(), LoadString(1760));
+    pane.ToggleExpand();
+    EXPECT_EQ(button.Bitmap(), 1413u);
+    EXPECT_EQ(button.toolTip(), LoadString(1761));
+}
+
 TEST_F(Pane, CaptionTextAndPictureToggleAsWell) {
     Gui::Click(Text(First()));
     EXPECT_EQ(First().height(), Look::CaptionHeight);
@@ -254,9 +269,12 @@ TEST_F(Pane, SelectionUnderThePointerLeavesTheRightTextColour) {
 TEST_F(Pane, CriticalityHasFourRowsWithPictures) {
     auto& combo = static_cast<QComboBox&>(Combo(First()));
     ASSERT_EQ(combo.count(), 4);
+    const unsigned pictures[] = {1425, 1424, 1426, 1427};
     for (int row = 0; row < 4; ++row) {
         EXPECT_EQ(combo.itemText(row), LoadString(2267 + static_cast<unsigned>(row)));
-        EXPECT_FALSE(combo.itemIcon(row).isNull());
+        const QImage shown = combo.itemIcon(row).pixmap(16, 16).toImage();
+        EXPECT_FALSE(shown.isNull());
+        EXPECT_EQ(shown, Look::SmallIconOf(pictures[row]).pixmap(16, 16).toImage()) << row;
     }
     EXPECT_EQ(combo.currentIndex(), 1);
 }
