@@ -31,6 +31,21 @@ TEST(AlphaImages, TransparencyStays) {
     EXPECT_EQ(qAlpha(DisabledImage(OnePixel(qRgba(10, 20, 30, 0))).pixel(0, 0)), 0);
 }
 
+TEST(AlphaImages, FewColoursChangeNothing) {
+    QImage many(4, 1, QImage::Format_ARGB32);
+    const QRgb colors[] = {qRgb(255, 128, 0), qRgb(192, 64, 1), qRgb(0, 255, 0), qRgb(10, 20, 30)};
+    for (int x = 0; x < 4; ++x)
+        many.setPixel(x, 0, colors[x]);
+    QImage few(4, 1, QImage::Format_Indexed8);
+    few.setColorTable(QList<QRgb>(std::begin(colors), std::end(colors)));
+    for (int x = 0; x < 4; ++x)
+        few.setPixel(x, 0, static_cast<uint>(x));
+    EXPECT_EQ(HotImage(few), HotImage(many));
+    EXPECT_EQ(DisabledImage(few), DisabledImage(many));
+    EXPECT_EQ(HotImage(few).depth(), 32);
+    EXPECT_EQ(DisabledImage(few).depth(), 32);
+}
+
 TEST(AlphaImages, AStripIsCutIntoItsImages) {
     const CAlphaImageList images(1089);
     EXPECT_EQ(images.GetCount(), 10);

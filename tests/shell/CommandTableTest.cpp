@@ -17,6 +17,20 @@ TEST(CommandTable, EveryCommandHasAText) {
     EXPECT_TRUE(TextOfCommand(32789).text.isEmpty());
 }
 
+TEST(CommandTable, AStringWithACommandsNumberIsNotItsText) {
+    int strings = 0;
+    for (unsigned id = Command::FirstOfCatalogue; id < 32940; ++id) {
+        const CString string = LoadString(id);
+        if (string.isEmpty())
+            continue;
+        ++strings;
+        const CString text = TextOfCommand(id).text;
+        EXPECT_EQ(text.isEmpty(), !FindToolCommand(id) && !FindAppCheckByCommand(id)) << id;
+        EXPECT_FALSE(text == string) << id;
+    }
+    EXPECT_GT(strings, 3);
+}
+
 TEST(CommandTable, NoTwoCommandsShareAKey) {
     for (const char* name : {"English", "German"}) {
         const Language language(name);

@@ -132,6 +132,16 @@ TEST_F(MainFrame, KeysThatLockAreShownFaintOrStrong) {
     EXPECT_TRUE(panes.findChild<QLabel*>("59139")->isEnabled());
 }
 
+TEST_F(MainFrame, TheToolbarsShareANumberAndAreToldApart) {
+    EXPECT_EQ(Frame().findChildren<QToolBar*>(CString::number(Command::MainToolbar)).size(), 2);
+    EXPECT_NE(static_cast<QToolBar*>(&Frame().GetMainToolbar()), &Frame().GetDisplayToolbar());
+    Send(Command::MainToolbar);
+    EXPECT_TRUE(Frame().GetMainToolbar().isHidden());
+    EXPECT_FALSE(Frame().GetDisplayToolbar().isHidden());
+    Send(Command::MainToolbar);
+    EXPECT_FALSE(Frame().GetMainToolbar().isHidden());
+}
+
 TEST_F(MainFrame, TheDisplayButtonStaysAtTheRightEdge) {
     QToolButton& button = Frame().GetDisplayToolbar().GetButton();
     for (const int width : {1024, 1500, 1100}) {

@@ -2,9 +2,13 @@
 
 #include "platform/LanguageLibrary.h"
 #include "shell/ChildFrame.h"
+#include "shell/CommandTable.h"
 
+#include <QCoreApplication>
+#include <QDesktopServices>
 #include <QDir>
 #include <QFileInfo>
+#include <QTextBrowser>
 
 namespace {
 
@@ -15,6 +19,20 @@ void SetLanguage(const CString& name) {
 }
 
 class Startup : public ShellRoom {};
+
+// Shows the pages that the tool hands to the desktop.
+class Desktop {
+public:
+    Desktop() { QDesktopServices::setUrlHandler("file", &m_browser, "setSource"); }
+    ~Desktop() { QDesktopServices::unsetUrlHandler("file"); }
+    Desktop(const Desktop&) = delete;
+    Desktop& operator=(const Desktop&) = delete;
+
+    CString Shown() const { return m_browser.source().toLocalFile(); }
+
+private:
+    QTextBrowser m_browser;
+};
 
 } // namespace
 
@@ -92,6 +110,27 @@ TEST_F(Startup, AMissingLanguageIsShownInEnglishAndItsHelpIsStillLookedForUnderI
     EXPECT_EQ(app.GetLanguageFolder(), parent + "/Lang/Klingon");
     EXPECT_EQ(QDir::currentPath(), parent);
     SetLanguage({});
+}
+
+TEST_F(Startup, HelpIsReadFromTheFolderOfTheNamedLanguage) {
+    // Of a name that no test beside this one uses.
+    const CString language = CString("Klingon%1").arg(QCoreApplication::applicationPid());
+    const CString languages = QFileInfo(RULEWARD_BIN_FOLDER).path() + "/Lang";
+    const CString help = languages + "/" + language + "/help";
+    ASSERT_TRUE(QDir().mkpath(help));
+    QFile page(help + "/index.html");
+    ASSERT_TRUE(page.open(QIODevice::WriteOnly) && page.write("<p>Help</p>") > 0);
+    page.close();
+    SetLanguage(language);
+    const Desktop desktop;
+    Start();
+    EXPECT_EQ(LoadedLanguage().toLower(), "english");
+    Send(Command::HelpTopics);
+    EXPECT_EQ(desktop.Shown(), help + "/index.html");
+    EXPECT_TRUE(messages.texts.isEmpty());
+    SetLanguage({});
+    QDir(languages + "/" + language).removeRecursively();
+    QDir().rmdir(languages);
 }
 
 TEST_F(Startup, EveryDocumentHasAFolderOfItsOwn) {
