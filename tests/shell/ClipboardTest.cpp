@@ -108,6 +108,42 @@ TEST_F(Clipboard, AFieldOfTextKeepsItsOwnClipboard) {
     EXPECT_TRUE(told.isEmpty());
 }
 
+TEST_F(Clipboard, KeysInAFieldOfTextLeaveTheChecksAlone) {
+    Send(AddReferences);
+    Send(Command::Copy);
+    Send(AddDrafting);
+    Gui::Click(*Pane(Drafting).GetDlgItem<QCheckBox>(OwnStandard));
+    auto& field = *Pane(Drafting).GetDlgItem<QLineEdit>(NameOfStandard);
+    Gui::Focus(field);
+    Gui::Type(field, "Letters");
+    Gui::Key(field, Qt::Key_Home, Qt::ShiftModifier);
+    Gui::Key(field, Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(QApplication::clipboard()->text(), "Letters");
+    Gui::Key(field, Qt::Key_X, Qt::ControlModifier);
+    EXPECT_EQ(field.text(), "");
+    Gui::Key(field, Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(field.text(), "Letters");
+    EXPECT_EQ(HeldTypes(), Types{References});
+    EXPECT_EQ(Standard().CountLiveChecks(), 2);
+    EXPECT_TRUE(told.isEmpty());
+}
+
+TEST_F(Clipboard, KeysCopyChecksAndNothingOnceTheirPaneIsClosed) {
+    Send(AddReferences);
+    Send(AddDatum);
+    ASSERT_TRUE(Page().hasFocus());
+    QApplication::clipboard()->setText("before");
+    Gui::Key(Page(), Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(HeldTypes(), Types{Datum});
+    EXPECT_EQ(QApplication::clipboard()->text(), "before");
+    Gui::Click(*Pane(Datum).GetDlgItem<QWidget>(CExtDialog::CloseControl));
+    ASSERT_EQ(Standard().CountLiveChecks(), 1);
+    Gui::Key(Page(), Qt::Key_C, Qt::ControlModifier);
+    EXPECT_TRUE(Held().checks.empty());
+    Gui::Key(Page(), Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(Standard().CountLiveChecks(), 1);
+}
+
 TEST_F(Clipboard, WithoutTheKeyboardNothingIsPasted) {
     Send(AddReferences);
     Send(Command::Cut);

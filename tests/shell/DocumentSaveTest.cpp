@@ -31,6 +31,13 @@ protected:
         QDir(folder.Path("read")).removeRecursively();
         return count;
     }
+    void Undo(int times) {
+        int step = 0;
+        for (int count = 0; count < times; ++count)
+            Document().GetStandard().StepHistory(true, step);
+        app.GetRouter().Arm();
+        Gui::Settle();
+    }
     bool IsFree(const CString& path) {
         return RunInChild([path] {
                    FileLock lock;
@@ -260,10 +267,28 @@ TEST_F(DocumentSave, UndoBackToTheSavedStepIsNoChange) {
     Send(Command::Save);
     Edit();
     EXPECT_TRUE(Document().IsModified());
-    int step = 0;
-    Document().GetStandard().StepHistory(true, step);
-    app.GetRouter().Arm();
-    Gui::Settle();
+    Undo(1);
+    EXPECT_FALSE(Document().IsModified());
+}
+
+TEST_F(DocumentSave, StepsInThePlaceOfSavedOnesAreChanges) {
+    Open(PutStandard("a.kvstd"));
+    Edit(3);
+    Send(Command::Save);
+    Undo(2);
+    EXPECT_TRUE(Document().IsModified());
+    Edit(2); // as many steps as were saved, but others
+    EXPECT_TRUE(Document().IsModified());
+    EXPECT_TRUE(Document().GetFrame()->isWindowModified());
+}
+
+TEST_F(DocumentSave, TheStartOfTheHistoryIsNoChange) {
+    Open(PutStandard("a.kvstd"));
+    Edit(2);
+    Send(Command::Save);
+    Undo(1);
+    EXPECT_TRUE(Document().IsModified());
+    Undo(1);
     EXPECT_FALSE(Document().IsModified());
 }
 

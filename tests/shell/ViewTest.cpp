@@ -5,6 +5,7 @@
 #include "engines/ActiveUnit.h"
 #include "platform/LanguageLibrary.h"
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QLineEdit>
 
@@ -16,7 +17,18 @@ constexpr MQC_CheckType_e Drafting = 101, Arrowheads = 102, References = 107, No
                           Features = 701;
 constexpr unsigned UnknownInRange = 32800, NothingToDo = 32859;
 
-using ViewCommands = ViewRoom;
+constexpr int Iso = 1007, OwnStandard = 1020, NameOfStandard = 1315; // controls
+
+class ViewCommands : public ViewRoom {
+protected:
+    // A button of the catalogue bar, by mouse.
+    void Press(MQC_CheckType_e type) {
+        CTabToolbar& bar = app.GetMainFrame()->GetTabToolbar();
+        const PageCheckRow& row = *FindPageCheck(type);
+        Gui::ClickAt(bar.GetTabs(), bar.GetTabs().tabRect(static_cast<int>(row.group)).center());
+        Gui::Click(*Gui::FindNumber(bar, static_cast<int>(row.commandID)));
+    }
+};
 
 } // namespace
 
@@ -39,6 +51,24 @@ TEST_F(ViewCommands, ACommandOfTheCatalogueTwiceAddsACheckAndTakesItAway) {
     EXPECT_EQ(Position(References), -1);
 }
 
+TEST_F(ViewCommands, AButtonOfTheCatalogueTwiceAndUndoKeepThePlace) {
+    Send(AddReferences);
+    Press(Datum);
+    Send(AddFeatures);
+    const int place = Position(Datum);
+    const int next = Position(Features);
+    ASSERT_GT(place, 0);
+    Press(Datum);
+    EXPECT_EQ(Live(Datum), nullptr);
+    EXPECT_EQ(Position(Features), place);
+    EXPECT_TRUE(Pane(Datum).isHidden());
+    Gui::Key(*QApplication::focusWidget(), Qt::Key_Z, Qt::ControlModifier);
+    ASSERT_NE(Live(Datum), nullptr);
+    EXPECT_EQ(Position(Datum), place);
+    EXPECT_EQ(Position(Features), next);
+    EXPECT_FALSE(Pane(Datum).isHidden());
+}
+
 TEST_F(ViewCommands, UndoBringsARemovedCheckBackToItsOldPlace) {
     Send(AddReferences);
     Send(AddDatum);
@@ -55,14 +85,35 @@ TEST_F(ViewCommands, UndoBringsARemovedCheckBackToItsOldPlace) {
 
 TEST_F(ViewCommands, TheKeyForUndoInAFieldUndoesAStepOfTheStandard) {
     Send(AddDrafting);
-    Gui::Click(*Pane(Drafting).GetDlgItem<QCheckBox>(1020));
-    auto& field = *Pane(Drafting).GetDlgItem<QLineEdit>(1315);
+    Gui::Click(*Pane(Drafting).GetDlgItem<QCheckBox>(OwnStandard));
+    auto& field = *Pane(Drafting).GetDlgItem<QLineEdit>(NameOfStandard);
     Gui::Focus(field);
     Gui::Type(field, "AB");
     const int steps = Standard().GetHistoryIndex();
     Gui::Key(field, Qt::Key_Z, Qt::ControlModifier);
     EXPECT_EQ(Standard().GetHistoryIndex(), steps - 1);
     EXPECT_EQ(field.text(), "A");
+}
+
+TEST_F(ViewCommands, EnterAndEscapeInAPaneDoNothing) {
+    Send(AddDrafting);
+    Gui::Click(*Pane(Drafting).GetDlgItem<QCheckBox>(OwnStandard));
+    auto& field = *Pane(Drafting).GetDlgItem<QLineEdit>(NameOfStandard);
+    Gui::Type(field, "Acme");
+    const int steps = Standard().GetHistoryIndex();
+    QWidget* const controls[] = {&Pane(Drafting), &field, Pane(Drafting).GetDlgItem<QCheckBox>(OwnStandard),
+                                 Pane(Drafting).GetDlgItem<QComboBox>(CExtDialog::CriticalityControl)};
+    for (QWidget* control : controls)
+        for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Escape}) {
+            Gui::Focus(*control);
+            Gui::Key(*control, key);
+            EXPECT_EQ(Standard().GetHistoryIndex(), steps) << control->metaObject()->className();
+            EXPECT_FALSE(Pane(Drafting).isHidden());
+            EXPECT_EQ(field.text(), "Acme");
+            EXPECT_TRUE(Document().GetFrame()->isMaximized());
+        }
+    EXPECT_EQ(app.GetDocuments().size(), 1u);
+    EXPECT_TRUE(told.isEmpty());
 }
 
 TEST_F(ViewCommands, AFontCommandAsksAndAddsOrRemovesItsCheck) {
@@ -216,6 +267,36 @@ TEST_F(ViewCommands, SummaryAndOptionsTakeWhatThePaneHasNotWrittenYet) {
     EXPECT_EQ(Live(Arrowheads)->Criticality, 2u);
 }
 
+TEST_F(ViewCommands, SavingTakesWhatThePaneHasNotWrittenYet) {
+    const TestFolder folder;
+    Send(AddArrowheads);
+    ASSERT_TRUE(Document().SaveStandardAs(folder.Path("a.kvstd")));
+    Pane(Arrowheads).Criticality = 3;
+    EXPECT_TRUE(Send(Command::Save));
+    CStandard saved;
+    ASSERT_TRUE(saved.LoadFromFile(Document().GetWorkingFile()));
+    CCheck* check = nullptr;
+    saved.FindLiveByType(Arrowheads, check);
+    ASSERT_NE(check, nullptr);
+    EXPECT_EQ(check->Criticality, 3u);
+    EXPECT_FALSE(Document().IsModified());
+}
+
+// Corrections are compared in a way by which most of them differ from themselves.
+TEST_F(ViewCommands, WhatAnUnchangedPaneWritesMayBeAStep) {
+    Send(AddDrafting);
+    Gui::Click(*Pane(Drafting).GetDlgItem<QCheckBox>(Iso));
+    ASSERT_EQ(Live(Drafting)->GetLongParameter(1578)->Correction, 2);
+    const int steps = Standard().GetHistoryIndex();
+    View().ActivatePage(SummaryPage);
+    EXPECT_EQ(Standard().GetHistoryIndex(), steps + 1);
+    View().ActivatePage(OptionsPage);
+    EXPECT_EQ(Standard().GetHistoryIndex(), steps + 2);
+    Send(AddReferences); // its pane is the selected one from now on, and writes nothing on its own
+    View().ActivatePage(SummaryPage);
+    EXPECT_EQ(Standard().GetHistoryIndex(), steps + 3);
+}
+
 TEST_F(ViewCommands, TheEnginesAskForTheUnitOfTheDocumentInFront) {
     const int first = Standard().Unit;
     EXPECT_EQ(ActiveLengthUnit(), first);
@@ -226,14 +307,20 @@ TEST_F(ViewCommands, TheEnginesAskForTheUnitOfTheDocumentInFront) {
     EXPECT_EQ(ActiveLengthUnit(), NoActiveUnit);
 }
 
-TEST_F(ViewCommands, ContentFromOutsideIsTakenUpWhileThePageIsInFront) {
-    EXPECT_TRUE(Standard().LoadFromXmlText("<Standard Unit=\"3\" AngularUnit=\"3\" Version=\"2026\">"
-                                           "<Check Type=\"301\" Criticality=\"2\"/></Standard>"));
-    Document().SetLoaded(true);
-    View().RebuildDisplay();
-    EXPECT_EQ(Position(Datum), 0);
-    EXPECT_EQ(View().GetLengthUnitName(), CString("Inches"));
-    EXPECT_EQ(View().GetAngleUnitName(), CString("Radians"));
+TEST_F(ViewCommands, ContentFromOutsideIsTakenUpWhicheverPageIsInFront) {
+    for (const SheetPage page : {ChecksPage, SummaryPage, OptionsPage}) {
+        New();
+        View().ActivatePage(page);
+        EXPECT_TRUE(Standard().LoadFromXmlText("<Standard Unit=\"3\" AngularUnit=\"3\" Version=\"2026\">"
+                                               "<Check Type=\"301\" Criticality=\"2\"/></Standard>"));
+        Document().SetLoaded(true);
+        View().RebuildDisplay();
+        EXPECT_EQ(View().GetSheet().GetActivePage(), ChecksPage);
+        EXPECT_EQ(Position(Datum), 0) << page;
+        EXPECT_FALSE(Document().IsLoaded());
+        EXPECT_EQ(View().GetLengthUnitName(), CString("Inches"));
+        EXPECT_EQ(View().GetAngleUnitName(), CString("Radians"));
+    }
 }
 
 TEST_F(ViewCommands, AFileOpensWithItsChecksOnThePage) {
@@ -248,4 +335,25 @@ TEST_F(ViewCommands, AFileOpensWithItsChecksOnThePage) {
     EXPECT_EQ(Standard().Name, folder.Path("a.kvstd"));
     app.GetRouter().UpdateNow();
     EXPECT_FALSE(Document().IsModified());
+}
+
+TEST_F(ViewCommands, ACheckWithoutAPaneSurvivesASave) {
+    const TestFolder folder;
+    folder.Put("a.kvstd", "<Standard Unit=\"2\" AngularUnit=\"0\" Version=\"2026\"><Check Type=\"301\"/>"
+                          "<Check Type=\"605\" Name=\"Hidden\" Criticality=\"3\"/></Standard>");
+    ASSERT_NE(app.OpenDocumentFile(folder.Path("a.kvstd")), nullptr);
+    Gui::Settle();
+    EXPECT_EQ(Page().GetTypePositions().size(), 1u);
+    View().ActivatePage(SummaryPage);
+    EXPECT_EQ(View().GetSummaryPage().LastRow, 1);
+    Send(AddReferences);
+    EXPECT_TRUE(Send(Command::Save));
+    CStandard saved;
+    ASSERT_TRUE(saved.LoadFromFile(Document().GetWorkingFile()));
+    EXPECT_EQ(saved.CountLiveChecks(), 3);
+    CCheck* hidden = nullptr;
+    saved.FindLiveByType(605, hidden);
+    ASSERT_NE(hidden, nullptr);
+    EXPECT_EQ(hidden->Name, "Hidden");
+    EXPECT_EQ(hidden->Criticality, 3u);
 }

@@ -1,6 +1,7 @@
 // The units of a standard in its view.
 #include "ViewRoom.h"
 
+#include "editing/PageSheet.h"
 #include "engines/UnitConvertor.h"
 #include "platform/LanguageLibrary.h"
 
@@ -10,8 +11,9 @@
 
 namespace {
 
-constexpr unsigned AddReferences = 32775;
-constexpr MQC_CheckType_e References = 107;
+constexpr unsigned AddArrowheads = 32772, AddReferences = 32775, AddGap = 32922;
+constexpr MQC_CheckType_e Arrowheads = 102, References = 107, Gap = 314;
+constexpr unsigned ArrowLength = 1552, GapLength = 2293; // parameters
 constexpr int Millimetre = 0, Metre = 2, Inch = 3, FeetAndInches = 5, Degree = 0, Radian = 3;
 
 class ViewUnits : public ViewRoom {
@@ -28,6 +30,20 @@ protected:
         auto& combo = *View().GetOptionsPage().GetDlgItem<QComboBox>(1280);
         combo.setCurrentIndex(-1);
         Gui::ChooseRow(combo, combo.findText(name));
+    }
+    void AddWithLength(unsigned command, MQC_CheckType_e type, unsigned parameter) {
+        Send(command);
+        auto edited = CStandard::CloneCheck(*Live(type));
+        CParameter<double>* length = edited->GetDoubleParameter(parameter);
+        length->Operator = OpOneOf;
+        length->Values.Add(25.4);
+        Standard().EditCheckCopy(*edited);
+        Page().LoadPane(*edited);
+    }
+    double Length(MQC_CheckType_e type, unsigned parameter) { // of a deleted check too
+        CCheck* check = nullptr;
+        Standard().FindAnyByType(type, check);
+        return check->GetDoubleParameter(parameter)->Values[0];
     }
     int Setting(const char* name) {
         int unit = -1;
@@ -64,6 +80,22 @@ TEST_F(ViewUnits, AChosenUnitConvertsControlsAndIsKeptForNewStandards) {
     EXPECT_EQ(View().GetLengthUnitName(), LoadString(1629));
     New();
     EXPECT_EQ(Standard().Unit, Inch);
+}
+
+TEST_F(ViewUnits, AChosenUnitConvertsAllChecksAndTheSummary) {
+    View().ApplyUnits(Millimetre, Degree);
+    AddWithLength(AddArrowheads, Arrowheads, ArrowLength);
+    AddWithLength(AddGap, Gap, GapLength);
+    Send(AddGap); // takes it away
+    ASSERT_EQ(Live(Gap), nullptr);
+    ChooseLength(LoadString(1629));
+    EXPECT_NEAR(Length(Arrowheads, ArrowLength), 1.0, 1e-6);
+    EXPECT_NEAR(Length(Gap, GapLength), 1.0, 1e-6) << "it may be brought back";
+    View().ActivatePage(SummaryPage);
+    CString shown = View().GetSummaryPage().Grid->GetCellText(1, 2);
+    ASSERT_TRUE(shown.endsWith("in")) << shown.toStdString();
+    shown.chop(2);
+    EXPECT_NEAR(shown.toDouble(), 1.0, 1e-6);
 }
 
 TEST_F(ViewUnits, AnAngleUnitLeavesLengthsAlone) {
@@ -120,4 +152,17 @@ TEST_F(ViewUnits, AUnitThatIsNotOfferedIsKept) {
     View().ActivatePage(OptionsPage);
     EXPECT_EQ(View().GetOptionsPage().GetDlgItem<QComboBox>(1280)->currentIndex(), -1);
     EXPECT_EQ(Standard().Unit, FeetAndInches);
+}
+
+TEST_F(ViewUnits, AUnitThatIsNotOfferedStaysInTheFile) {
+    const TestFolder folder;
+    folder.Put("a.kvstd", "<Standard Unit=\"5\" AngularUnit=\"0\" Version=\"2026\"><Check Type=\"107\"/>"
+                          "</Standard>");
+    ASSERT_NE(app.OpenDocumentFile(folder.Path("a.kvstd")), nullptr);
+    View().ActivatePage(OptionsPage);
+    View().ActivatePage(ChecksPage);
+    EXPECT_TRUE(Send(Command::Save));
+    QFile saved(Document().GetWorkingFile());
+    ASSERT_TRUE(saved.open(QIODevice::ReadOnly));
+    EXPECT_TRUE(saved.readAll().contains(" Unit=\"5\" "));
 }
