@@ -78,6 +78,11 @@ TEST(StandardRead, HeadOfACheck) {
     EXPECT_EQ(checks[2]->Criticality, 1u);
 }
 
+TEST(StandardRead, SheetFontsAreNamedByTheirFileOnly) {
+    EXPECT_EQ(Read("<Check Type='103' Name='Sheet fonts'/>").First().Name, "Sheet fonts");
+    EXPECT_EQ(Read("<Check Type='103'/>").First().Name, "");
+}
+
 TEST(StandardRead, UnknownCheckKeepsItsHeadThroughASave) {
     for (int type : {605, 404, 900, 0}) {
         const CString head = CString("<Check Type=\"%1\" Name=\"Own\" Status=\"0\" LifeStatus=\"1\" "

@@ -12,8 +12,10 @@
 namespace {
 
 constexpr unsigned AddArrowheads = 32772, AddReferences = 32775, AddGap = 32922;
-constexpr MQC_CheckType_e Arrowheads = 102, References = 107, Gap = 314;
+constexpr MQC_CheckType_e Arrowheads = 102, References = 107, NoteFont = 109, Gap = 314;
 constexpr unsigned ArrowLength = 1552, GapLength = 2293; // parameters
+constexpr int HeightCombo = 1001, HeightField = 1002;    // controls of a font check
+constexpr int EqualRow = 1, OneOfRow = 7;                // of its comparisons
 constexpr int Millimetre = 0, Metre = 2, Inch = 3, FeetAndInches = 5, Degree = 0, Radian = 3;
 
 class ViewUnits : public ViewRoom {
@@ -44,6 +46,17 @@ protected:
         CCheck* check = nullptr;
         Standard().FindAnyByType(type, check);
         return check->GetDoubleParameter(parameter)->Values[0];
+    }
+    // Types values for the height of the notes' font, key by key.
+    QLineEdit& EnterHeight(int row, const CString& values) {
+        if (Position(NoteFont) < 0)
+            Page().AddCheck(NoteFont, nullptr);
+        Gui::ChooseRow(*Pane(NoteFont).GetDlgItem<QComboBox>(HeightCombo), row);
+        auto& field = *Pane(NoteFont).GetDlgItem<QLineEdit>(HeightField);
+        Gui::Focus(field);
+        field.selectAll();
+        Gui::Type(field, values);
+        return field;
     }
     int Setting(const char* name) {
         int unit = -1;
@@ -96,6 +109,27 @@ TEST_F(ViewUnits, AChosenUnitConvertsAllChecksAndTheSummary) {
     ASSERT_TRUE(shown.endsWith("in")) << shown.toStdString();
     shown.chop(2);
     EXPECT_NEAR(shown.toDouble(), 1.0, 1e-6);
+}
+
+TEST_F(ViewUnits, AnEntryIsHeldToTheUnitOfItsStandard) {
+    View().ApplyUnits(Millimetre, Degree);
+    EXPECT_EQ(EnterHeight(EqualRow, "5000").text(), "5000");
+    EXPECT_TRUE(told.isEmpty());
+    View().ApplyUnits(Metre, Degree);
+    EXPECT_EQ(EnterHeight(EqualRow, "5000").text(), "");
+    EXPECT_EQ(told, CStringArray{LoadString(2193)});
+}
+
+TEST_F(ViewUnits, ValuesThatWereTypedFollowTheUnit) {
+    constexpr int Centimetres = 4; // row
+    View().ApplyUnits(Millimetre, Degree);
+    const QLineEdit& field = EnterHeight(OneOfRow, "1,0,25");
+    View().ActivatePage(OptionsPage);
+    Gui::ChooseRow(*View().GetOptionsPage().GetDlgItem<QComboBox>(1280), Centimetres);
+    EXPECT_EQ(field.text(), "0.1 , 0.0 , 2.5");
+    const CParameter<double>& heights = *Live(NoteFont)->GetDoubleParameter(1704);
+    ASSERT_EQ(heights.Values.Count, 3);
+    EXPECT_NEAR(heights.Values[2], 2.5, 1e-9);
 }
 
 TEST_F(ViewUnits, AnAngleUnitLeavesLengthsAlone) {
