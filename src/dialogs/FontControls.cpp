@@ -174,8 +174,10 @@ void FontControls::Wire() {
         connect(pair, &ComparisonPair::Changed, this, &FontControls::Tell);
     connect(&Get<QComboBox>(PointsComparison), &QComboBox::activated, this, &FontControls::OnChosen);
     for (const int number : {UnitsButton, PointsButton, DocumentFontBox})
-        if (auto* button = m_window.GetDlgItem<QAbstractButton>(number))
+        if (auto* button = m_window.GetDlgItem<QAbstractButton>(number)) {
             connect(button, &QAbstractButton::clicked, this, &FontControls::OnChosen);
+            button->installEventFilter(this);
+        }
     connect(&Get<QComboBox>(PointSizes), &QComboBox::editTextChanged, this, &FontControls::OnPointSizeEdited);
     Get<QComboBox>(PointSizes).installEventFilter(this);
 }
@@ -201,12 +203,26 @@ void FontControls::OnChosen() {
     HeightMode = Get<QAbstractButton>(PointsButton).isChecked() ? InPoints : InUnits;
     ApplyEnableRules();
     Tell();
+    // One who walks through the choices by keys has not chosen yet.
+    if (m_isByMouse)
+        FocusHeight();
+}
+
+void FontControls::FocusHeight() {
+    for (const int number : {HeightField, SpacingField})
+        if (auto& field = Get<QWidget>(number); field.isEnabled())
+            return field.setFocus();
 }
 
 bool FontControls::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::FocusOut &&
+    const bool isSizes = watched == &Get<QComboBox>(PointSizes);
+    if (isSizes && event->type() == QEvent::FocusOut &&
         static_cast<QFocusEvent*>(event)->reason() != Qt::PopupFocusReason)
         OnPointSizeEdited();
+    else if (!isSizes && event->type() == QEvent::MouseButtonPress)
+        m_isByMouse = true;
+    else if (!isSizes && event->type() == QEvent::KeyPress)
+        m_isByMouse = false;
     return QObject::eventFilter(watched, event);
 }
 

@@ -50,6 +50,7 @@ private:
     void AttachUnits();
     void Tell();
     void OnChosen();
+    void FocusHeight();
     void OnPointSizeEdited();
     void ApplyEnableRules();
     void ResetHeightControls();
@@ -67,4 +68,5 @@ private:
     ComparisonPair m_spacing;
     int HeightMode = InUnits; // of the height's two forms only the one in use is written
     bool m_isLoading = false;
+    bool m_isByMouse = false; // the last of the choices was clicked
 };

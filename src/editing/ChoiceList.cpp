@@ -1,11 +1,13 @@
 #include "editing/ChoiceList.h"
 
 #include <QHash>
+#include <QSet>
 #include <algorithm>
 
 namespace {
 
 constexpr int LeastWidth = 120;
+constexpr int Margin = 1; // at a scale of 1.5 the rows would cover the frame's thin line
 
 } // namespace
 
@@ -15,6 +17,9 @@ QSize CChoiceList::RowDelegate::sizeHint(const QStyleOptionViewItem& option, con
 
 CChoiceList::CChoiceList(QWidget* parent) : QListWidget(parent) {
     setItemDelegate(new RowDelegate(this));
+    setViewportMargins(Margin, Margin, Margin, Margin);
+    setBackgroundRole(QPalette::Base);
+    setAutoFillBackground(true);
     setSelectionMode(MultiSelection);
     setUniformItemSizes(true); // thousands of rows are never measured one by one
     setVerticalScrollMode(ScrollPerItem);
@@ -38,16 +43,19 @@ void CChoiceList::Choose(const CStringArray& texts, bool addsMissing) {
         rows.insert(item(row)->text(), row);
     QItemSelection chosen;
     int first = count() + static_cast<int>(texts.size());
+    QSet<int> taken; // a text may be given twice
     for (const CString& text : texts) {
         if (addsMissing && !rows.contains(text)) {
             rows.insert(text, count());
             addItem(text);
         }
-        if (const auto found = rows.constFind(text); found != rows.constEnd()) {
-            const QModelIndex index = model()->index(*found, 0);
-            chosen.select(index, index);
-            first = qMin(first, *found);
-        }
+        const auto found = rows.constFind(text);
+        if (found == rows.constEnd() || taken.contains(*found))
+            continue;
+        taken.insert(*found);
+        const QModelIndex index = model()->index(*found, 0);
+        chosen.select(index, index);
+        first = qMin(first, *found);
     }
     selectionModel()->select(chosen, QItemSelectionModel::ClearAndSelect);
     if (QListWidgetItem* const topmost = item(first))
@@ -56,7 +64,7 @@ void CChoiceList::Choose(const CStringArray& texts, bool addsMissing) {
 
 QSize CChoiceList::sizeHint() const {
     const int room = m_columns > 1 ? 2 : 0; // a column that is filled to the last pixel would be broken early
-    return {LeastWidth, m_visibleRows * RowHeight + room + 2 * frameWidth()};
+    return {LeastWidth, m_visibleRows * RowHeight + room + 2 * (frameWidth() + Margin)};
 }
 
 void CChoiceList::resizeEvent(QResizeEvent* event) {

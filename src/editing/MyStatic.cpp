@@ -89,9 +89,11 @@ void CMyStatic::RefreshDisplay() {
         FillList();
     else
         ShowField(text);
-    m_edit->setVisible(!usesList);
-    m_list->setVisible(usesList);
-    setFocusProxy(usesList ? static_cast<QWidget*>(m_list) : m_edit);
+    QWidget* const shown = usesList ? static_cast<QWidget*>(m_list) : m_edit;
+    QWidget* const other = usesList ? static_cast<QWidget*>(m_edit) : m_list;
+    other->hide(); // first, for a window that has made room for both does not shrink again
+    shown->show();
+    setFocusProxy(shown);
 }
 
 void CMyStatic::ShowField(const CString& text) {

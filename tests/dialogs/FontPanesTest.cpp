@@ -204,6 +204,20 @@ TEST_F(FontPane, HeightInPointsTakesTheOtherHeightsOut) {
     EXPECT_FALSE(Hand().IsEnabled(Font::PointsCombo));
 }
 
+TEST_F(FontPane, AClickOnUnitsGoesOnInTheHeightAndAKeyStays) {
+    Hand().Enter(Font::HeightCombo, Font::Equal, "3");
+    Hand().Click(Font::Points);
+    Hand().Click(Font::Units);
+    EXPECT_EQ(QApplication::focusWidget(), &Hand().Get(Font::HeightField));
+    Gui::Focus(Hand().Get(Font::Units));
+    Gui::Key(Hand().Get(Font::Units), Qt::Key_Right);
+    EXPECT_TRUE(Hand().Get<QAbstractButton>(Font::Points).isChecked());
+    Gui::Key(Hand().Get(Font::Points), Qt::Key_Left);
+    EXPECT_TRUE(Hand().Get<QAbstractButton>(Font::Units).isChecked());
+    EXPECT_EQ(Written(Font::Height), "3:3");
+    EXPECT_EQ(QApplication::focusWidget(), &Hand().Get(Font::Units));
+}
+
 TEST_F(FontPane, HeightsInUnitsAreLostOnlyWhenPointsAreChosen) {
     Hand().Enter(Font::HeightCombo, Font::Equal, "3");
     Hand().Choose(Font::UnderlineBox, 1);

@@ -164,6 +164,16 @@ TEST_F(FontPopUp, CorrectionsFollowTheRequirements) {
     EXPECT_EQ(Hand().Correction(1300).Edit()->text(), "4");
 }
 
+TEST_F(FontPopUp, KeepsItsSizeWhileCorrectionsComeAndGo) {
+    Open(109);
+    const QSize before = m_dialog->size();
+    Hand().ClickRow(Font::Styles, 2);
+    Hand().Enter(Font::HeightCombo, Font::OneOf, "2,3");
+    Hand().Choose(Font::HeightCombo, Font::Equal);
+    Hand().ClickRow(Font::Styles, 2);
+    EXPECT_EQ(m_dialog->size(), before);
+}
+
 TEST_F(FontPopUp, HelpOpensTheFirstPage) {
     Open(109);
     Hand().Click(Help);
@@ -178,4 +188,20 @@ TEST_F(FontPopUp, ReturnAddsAndEscapeDoesNot) {
     Open(109);
     Gui::Key(Hand().Get(Font::Styles), Qt::Key_Return);
     EXPECT_EQ(LiveTypes(), Types{109});
+}
+
+TEST_F(FontPopUp, EveryInputHasANameOfItsOwn) {
+    Open(109);
+    CStringArray names;
+    for (const QWidget* input : m_dialog->findChildren<QWidget*>()) {
+        if (!input->isVisible() || !(input->focusPolicy() & Qt::TabFocus))
+            continue;
+        const auto* button = qobject_cast<const QAbstractButton*>(input);
+        const CString name = button ? button->text() : input->accessibleName();
+        EXPECT_FALSE(name.isEmpty()) << input->metaObject()->className() << input->objectName().toStdString();
+        const bool isPart = input->parentWidget()->accessibleName() == name; // of a box that holds it
+        EXPECT_TRUE(isPart || !names.contains(name)) << name.toStdString();
+        names.append(name);
+    }
+    EXPECT_GE(names.size(), 30);
 }

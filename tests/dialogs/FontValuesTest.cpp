@@ -83,12 +83,20 @@ TEST_F(FontValues, ASingleBoundIsBothOnLeaving) {
     EXPECT_EQ(Written(Font::Height), "1:3,3");
 }
 
+TEST_F(FontValues, ARangeChosenOverASingleValueTakesItAsItsUpperBound) {
+    Hand().Enter(Font::HeightCombo, Font::Equal, "3");
+    Hand().Choose(Font::HeightCombo, Font::Between);
+    EXPECT_EQ(Hand().Field(Font::HeightField).text(), "0,3");
+    EXPECT_EQ(Written(Font::Height), "1:0,3");
+}
+
 TEST_F(FontValues, ACommaAtTheEndGoesOnLeaving) {
     Hand().Enter(Font::HeightCombo, Font::Between, "3,");
     Hand().Leave();
     EXPECT_EQ(Hand().Field(Font::HeightField).text(), "3,3");
-    Hand().Enter(Font::SpacingCombo, Font::Between, "3,4");
-    Hand().Field(Font::SpacingField).setText("3,4,"); // as it was brought by a program
+    Hand().Enter(Font::SpacingCombo, Font::OneOf, "3,4,");
+    Hand().Choose(Font::SpacingCombo, Font::Between);
+    EXPECT_EQ(Hand().Field(Font::SpacingField).text(), "3,4,");
     Gui::Focus(Hand().Get(Font::SpacingField));
     Hand().Leave();
     EXPECT_EQ(Hand().Field(Font::SpacingField).text(), "3,4");
@@ -131,32 +139,6 @@ TEST_F(FontValues, HeightsOfACheckAreShownWithBlanksAroundTheCommas) {
     EXPECT_EQ(Hand().Field(Font::HeightField).text(), "100 , 0.125 , 20");
     LoadHeights(OpNone, {});
     EXPECT_EQ(Hand().Field(Font::HeightField).text(), "");
-}
-
-// What is dropped when a check is shown and written again.
-TEST_F(FontValues, DecimalsBeyondTheSixthAreDropped) {
-    LoadHeights(OpEqual, {0.1234567891});
-    EXPECT_EQ(Hand().Field(Font::HeightField).text(), "0.123457");
-    Hand().Choose(Font::UnderlineBox, 1);
-    EXPECT_EQ(Live().GetDoubleParameter(Font::Height)->Values[0], 0.123457);
-}
-
-TEST_F(FontValues, AComparisonThatIsNotOnOfferIsDropped) {
-    LoadHeights(OpNotEqual, {2});
-    EXPECT_EQ(Hand().Combo(Font::HeightCombo).currentIndex(), 0);
-    Hand().Choose(Font::UnderlineBox, 1);
-    EXPECT_EQ(Written(Font::Height), "0:");
-}
-
-TEST_F(FontValues, AStyleWithoutARowIsDropped) {
-    CCheck check(Font::Notes, 0, 0, 0, 1);
-    auto* style = check.GetLongParameter(Font::Style);
-    style->Operator = OpOneOf;
-    for (const long code : {9L, 3L})
-        style->Values.Add(code);
-    Pane().LoadCheck(check);
-    Hand().Choose(Font::UnderlineBox, 1);
-    EXPECT_EQ(Written(Font::Style), "2:3");
 }
 
 TEST_F(FontValues, AMissingFontGetsARow) {
