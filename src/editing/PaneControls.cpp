@@ -1,5 +1,6 @@
 #include "editing/PaneControls.h"
 
+#include "editing/BoxPanel.h"
 #include "editing/ChoiceList.h"
 #include "editing/ComboBoxExt.h"
 #include "editing/ExtRichEditCtrl.h"
@@ -7,6 +8,7 @@
 #include "editing/GroupBoxExt.h"
 #include "editing/MyStatic.h"
 #include "editing/PaneLabels.h"
+#include "editing/PictureBox.h"
 #include "platform/widgets/TemplateLoader.h"
 
 namespace {
@@ -16,6 +18,7 @@ template <class Control> void Register(const char* name) {
 }
 
 bool RegisterAll() {
+    Register<CBoxPanel>("CBoxPanel");
     Register<CChoiceList>("CChoiceList");
     Register<CComboBoxExt>("CComboBoxExt");
     Register<CExtRichEditCtrl>("CExtRichEditCtrl");
@@ -25,6 +28,7 @@ bool RegisterAll() {
     Register<CHeading>("CHeading");
     Register<CHint>("CHint");
     Register<CMyStatic>("CMyStatic");
+    Register<CPictureBox>("CPictureBox");
     return true;
 }
 
