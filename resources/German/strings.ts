@@ -4107,6 +4107,56 @@ Ihr bisheriger Inhalt ist unversehrt, und Ihre Änderungen bleiben im geöffnete
         <extracomment>Pane of a check: name of the box of operators; %1 is the parameter.</extracomment>
         <translation>Vergleich von %1</translation>
     </message>
+    <message id="102.1002">
+        <source>Dimension arrow hei&amp;ght</source>
+        <extracomment>Label in the pane of the arrowheads of a document.</extracomment>
+        <translation>Höhe des &amp;Maßpfeils</translation>
+    </message>
+    <message id="102.1006">
+        <source>Dimension arrow wi&amp;dth</source>
+        <extracomment>Label in the pane of the arrowheads of a document.</extracomment>
+        <translation>B&amp;reite des Maßpfeils</translation>
+    </message>
+    <message id="102.1013">
+        <source>Dimension arrow &amp;length</source>
+        <extracomment>Label in the pane of the arrowheads of a document.</extracomment>
+        <translation>&amp;Länge des Maßpfeils</translation>
+    </message>
+    <message id="102.1022">
+        <source>&amp;Section arrow height</source>
+        <extracomment>Label in the pane of the arrowheads of a document.</extracomment>
+        <translation>Höhe des &amp;Schnittpfeils</translation>
+    </message>
+    <message id="102.1028">
+        <source>Sec&amp;tion arrow width</source>
+        <extracomment>Label in the pane of the arrowheads of a document.</extracomment>
+        <translation>Brei&amp;te des Schnittpfeils</translation>
+    </message>
+    <message id="102.1033">
+        <source>Section arr&amp;ow length</source>
+        <extracomment>Label in the pane of the arrowheads of a document.</extracomment>
+        <translation>Län&amp;ge des Schnittpfeils</translation>
+    </message>
+    <message id="102.1066">
+        <source>Arrowhead at edge or &amp;vertex</source>
+        <extracomment>Label in the pane of the arrowheads of a document.</extracomment>
+        <translation>Pfeilspitze an Kante oder &amp;Ecke</translation>
+    </message>
+    <message id="102.1113">
+        <source>Arrowhead &amp;at face</source>
+        <extracomment>Label in the pane of the arrowheads of a document.</extracomment>
+        <translation>Pfeilspitze &amp;an Fläche</translation>
+    </message>
+    <message id="102.1117">
+        <source>&amp;Unattached arrowhead</source>
+        <extracomment>Label in the pane of the arrowheads of a document.</extracomment>
+        <translation>Pfeilspitze &amp;ohne Bezug</translation>
+    </message>
+    <message id="1069.1073">
+        <source>A&amp;rrowhead style</source>
+        <extracomment>Label in the pane of the arrowheads of annotations.</extracomment>
+        <translation>Fo&amp;rm der Pfeilspitze</translation>
+    </message>
     <message id="1080.1000">
         <source>&amp;Document units</source>
         <extracomment>Choice in the panes of the font checks: the text height is given in the length unit.</extracomment>
@@ -4176,6 +4226,31 @@ Ihr bisheriger Inhalt ist unversehrt, und Ihre Änderungen bleiben im geöffnete
         <source>Checks to add</source>
         <extracomment>Heading in the dialog that adds font checks, over the boxes of the checks.</extracomment>
         <translation>Hinzuzufügende Prüfungen</translation>
+    </message>
+    <message id="1093.1067">
+        <source>Arrow placemen&amp;t</source>
+        <extracomment>Label in the pane of the arrowheads of dimensions.</extracomment>
+        <translation>Pfeila&amp;nordnung</translation>
+    </message>
+    <message id="1093.1075">
+        <source>Use the arrow placement of the doc&amp;ument</source>
+        <extracomment>Box in the pane of the arrowheads of dimensions.</extracomment>
+        <translation>Pfeilan&amp;ordnung des Dokuments verwenden</translation>
+    </message>
+    <message id="1093.1077">
+        <source>Use the arrowhead style of the docu&amp;ment</source>
+        <extracomment>Box in the panes of the arrowheads of dimensions and annotations.</extracomment>
+        <translation>Pfeilspitzenfor&amp;m des Dokuments verwenden</translation>
+    </message>
+    <message id="1093.1112">
+        <source>F&amp;irst arrowhead</source>
+        <extracomment>Label in the pane of the arrowheads of dimensions.</extracomment>
+        <translation>&amp;Erste Pfeilspitze</translation>
+    </message>
+    <message id="1093.1121">
+        <source>Sec&amp;ond arrowhead</source>
+        <extracomment>Label in the pane of the arrowheads of dimensions.</extracomment>
+        <translation>&amp;Zweite Pfeilspitze</translation>
     </message>
     <message id="1325.1000">
         <source>Units</source>

@@ -1,5 +1,6 @@
 #include "dialogs/PaneFactory.h"
 
+#include "dialogs/ArrowPanes.h"
 #include "dialogs/FontPanes.h"
 #include "dialogs/KeepingCheckDlg.h"
 #include "dialogs/PlainPanes.h"
@@ -50,6 +51,9 @@ constexpr PaneClass Classes[] = {
     {"CDocFontCheckDlg", Make<CDocFontCheckDlg>},
     {"CDimFontDlg", Make<CDimFontDlg>},
     {"CAnntFontDlg", Make<CAnntFontDlg>},
+    {"CDocArrowCheckDlg", Make<CDocArrowCheckDlg>},
+    {"CDimArrowCheckDlg", Make<CDimArrowCheckDlg>},
+    {"CAnntArrowCheckDlg", Make<CAnntArrowCheckDlg>},
 };
 
 // The numbers of a pane that keeps the values of its check.
@@ -61,12 +65,11 @@ struct KeepingPane {
 };
 
 constexpr KeepingPane KeepingPanes[] = {
-    {102, 1145, 1579, 1002}, {105, 1146, 1723, 1003}, {108, 1147, 1662, 1004},   {122, 1403, 1964, 1018},
-    {123, 1408, 139, 1019},  {127, 1438, 2425, 1020}, {201, 1158, 1584, 1101},   {402, 1162, 1580, 1202},
-    {405, 1164, 1689, 1204}, {408, 1259, 2272, 1207}, {409, 1258, 2273, 1208},   {302, 1167, 1605, 1301},
-    {303, 1169, 1582, 1302}, {310, 1166, 1925, 1304}, {312, 1265, 1743, 1306},   {314, 1407, 1759, 1308},
-    {501, 1171, 1822, 1401}, {503, 1264, 1740, 1402}, {601, 1175, 2017, 1501},   {603, 1173, 1585, 1503},
-    {604, 1176, 1713, 1504}, {607, 1406, 1753, 1506}, {608, 32960, 32939, 1506},
+    {105, 1146, 1723, 1003}, {108, 1147, 1662, 1004}, {122, 1403, 1964, 1018}, {123, 1408, 139, 1019},
+    {127, 1438, 2425, 1020}, {405, 1164, 1689, 1204}, {408, 1259, 2272, 1207}, {409, 1258, 2273, 1208},
+    {302, 1167, 1605, 1301}, {303, 1169, 1582, 1302}, {310, 1166, 1925, 1304}, {312, 1265, 1743, 1306},
+    {314, 1407, 1759, 1308}, {501, 1171, 1822, 1401}, {503, 1264, 1740, 1402}, {601, 1175, 2017, 1501},
+    {603, 1173, 1585, 1503}, {604, 1176, 1713, 1504}, {607, 1406, 1753, 1506}, {608, 32960, 32939, 1506},
 };
 
 } // namespace

@@ -31,11 +31,15 @@ BoxGroup::BoxGroup(const ControlHost& window, unsigned parameter, std::vector<Va
 }
 
 void BoxGroup::ShowPictures(int parameterType) {
+    const CEnumEngine engine;
     for (const auto& [number, value] : m_boxes) {
         unsigned long bitmap = 0;
+        CString text;
+        const auto code = static_cast<unsigned long>(value);
         auto* box = m_window.GetDlgItem<CPictureBox>(number);
-        if (box && CEnumEngine().GetItemID(parameterType, static_cast<unsigned long>(value), bitmap))
-            box->SetPicture(static_cast<unsigned>(bitmap));
+        if (box && engine.GetItemID(parameterType, code, bitmap) &&
+            engine.GetDisplayString(parameterType, code, text))
+            box->SetPicture(static_cast<unsigned>(bitmap), text, 1.0);
     }
 }
 

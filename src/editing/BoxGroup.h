@@ -20,7 +20,7 @@ public:
 
     const std::vector<ValueBox>& Boxes() const { return m_boxes; }
 
-    // Gives each picture box the picture that a value list has for its value.
+    // Gives each picture box the picture, in its own size, that a value list has for its value.
     void ShowPictures(int parameterType);
 
     void SetEnabled(bool isEnabled);

@@ -17,7 +17,7 @@ CComboBoxExt::CComboBoxExt(QWidget* parent) : QComboBox(parent) {
 }
 
 void CComboBoxExt::AddRow(const CString& text, unsigned bitmap) {
-    addItem(bitmap ? Look::IconOf(bitmap) : QIcon(), text);
+    addItem(bitmap ? Look::IconOf(bitmap) : QIcon(), text, bitmap);
     setItemData(count() - 1, text, Qt::ToolTipRole);
     if (bitmap)
         setIconSize(iconSize().expandedTo(Look::BitmapSizeOf(bitmap)));
@@ -41,7 +41,8 @@ void CComboBoxExt::showPopup() {
     QComboBox::showPopup();
 }
 
-// A text that does not fit ends in dots; in the open list it stands in full.
+// A text that does not fit ends in dots, and what a picture tells stands without its text; in the open list
+// both stand in full.
 void CComboBoxExt::paintEvent(QPaintEvent*) {
     QStylePainter painter(this);
     QStyleOptionComboBox option;
@@ -51,6 +52,8 @@ void CComboBoxExt::paintEvent(QPaintEvent*) {
         style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this);
     constexpr int Margins = 4;
     const int picture = option.currentIcon.isNull() ? 0 : option.iconSize.width() + 4;
+    if (currentData().toUInt() != 0)
+        option.currentText.clear();
     option.currentText =
         option.fontMetrics.elidedText(option.currentText, Qt::ElideRight, field.width() - picture - Margins);
     painter.drawControl(QStyle::CE_ComboBoxLabel, option);

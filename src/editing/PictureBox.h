@@ -1,5 +1,7 @@
-// A check box that shows what it stands for by a picture.
+// A box to tick that shows by a picture what it stands for.
 #pragma once
+
+#include "platform/Text.h"
 
 #include <QCheckBox>
 
@@ -9,11 +11,7 @@ class CPictureBox : public QCheckBox {
 public:
     explicit CPictureBox(QWidget* parent = nullptr);
 
-    // A bitmap of the choices of a parameter, drawn at its own size; its text is the tip and the name for
-    // those who do not see it.
-    void SetPicture(unsigned bitmap);
-    unsigned Picture() const { return m_bitmap; }
-
-private:
-    unsigned m_bitmap = 0;
+    // A bitmap of the language library, and what it means, which is told by the tip and to those who do not
+    // see it. Where there is room pictures are larger than in a list, to be told apart at a glance.
+    void SetPicture(unsigned bitmap, const CString& text, qreal enlargement = 1.25);
 };
