@@ -56,7 +56,7 @@ void BoxGroup::Clear() {
 void BoxGroup::Load(const CCheck& check) {
     Clear();
     const CParameterEntry* entry = EntryOf(check, m_parameter);
-    if (!entry)
+    if (!entry || entry->Parameter->Operator == OpNone)
         return;
     VisitParameter(*entry, [&]<class T>(const CParameter<T>& parameter) {
         if constexpr (IsWhole<T>)

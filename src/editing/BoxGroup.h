@@ -26,7 +26,8 @@ public:
     void SetEnabled(bool isEnabled);
     void Clear();
 
-    // Ticks the boxes of the parameter's values and no others. A value without a box is passed over.
+    // Ticks the boxes of the parameter's values and no others; none for a parameter that is not in force. A
+    // value without a box is passed over.
     void Load(const CCheck& check);
 
     // Requires one of the ticked values; with no box ticked the parameter is empty and not in force.

@@ -9,7 +9,7 @@ class CPictureBox : public QCheckBox {
     Q_OBJECT
 
 public:
-    explicit CPictureBox(QWidget* parent = nullptr);
+    explicit CPictureBox(QWidget* parent = nullptr) : QCheckBox(parent) {}
 
     // A bitmap of the language library, and what it means, which is told by the tip and to those who do not
     // see it. Where there is room pictures are larger than in a list, to be told apart at a glance.
