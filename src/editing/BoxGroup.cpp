@@ -39,7 +39,7 @@ void BoxGroup::ShowPictures(int parameterType) {
         auto* box = m_window.GetDlgItem<CPictureBox>(number);
         if (box && engine.GetItemID(parameterType, code, bitmap) &&
             engine.GetDisplayString(parameterType, code, text))
-            box->SetPicture(static_cast<unsigned>(bitmap), text, 1.0);
+            box->SetPicture(static_cast<unsigned>(bitmap), text);
     }
 }
 

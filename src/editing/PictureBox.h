@@ -11,7 +11,9 @@ class CPictureBox : public QCheckBox {
 public:
     explicit CPictureBox(QWidget* parent = nullptr) : QCheckBox(parent) {}
 
-    // A bitmap of the language library, and what it means, which is told by the tip and to those who do not
-    // see it. Where there is room pictures are larger than in a list, to be told apart at a glance.
-    void SetPicture(unsigned bitmap, const CString& text, qreal enlargement = 1.25);
+    // A bitmap of the language library, in its own size, and what it means, which is told by the tip and to
+    // those who do not see the picture.
+    void SetPicture(unsigned bitmap, const CString& text);
+
+    QSize sizeHint() const override; // no wider than mark and picture, which stand in rows
 };
