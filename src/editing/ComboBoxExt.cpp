@@ -9,6 +9,12 @@
 #include <QStylePainter>
 #include <QWheelEvent>
 
+namespace {
+
+constexpr int BitmapRole = Qt::UserRole + 1; // the number of a row's picture, 0 for none
+
+} // namespace
+
 CComboBoxExt::CComboBoxExt(QWidget* parent) : QComboBox(parent) {
     setFocusPolicy(Qt::StrongFocus);
     setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
@@ -17,7 +23,8 @@ CComboBoxExt::CComboBoxExt(QWidget* parent) : QComboBox(parent) {
 }
 
 void CComboBoxExt::AddRow(const CString& text, unsigned bitmap) {
-    addItem(bitmap ? Look::IconOf(bitmap) : QIcon(), text, bitmap);
+    addItem(bitmap ? Look::IconOf(bitmap) : QIcon(), text);
+    setItemData(count() - 1, bitmap, BitmapRole);
     setItemData(count() - 1, text, Qt::ToolTipRole);
     if (bitmap)
         setIconSize(iconSize().expandedTo(Look::BitmapSizeOf(bitmap)));
@@ -52,7 +59,7 @@ void CComboBoxExt::paintEvent(QPaintEvent*) {
         style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this);
     constexpr int Margins = 4;
     const int picture = option.currentIcon.isNull() ? 0 : option.iconSize.width() + 4;
-    if (currentData().toUInt() != 0)
+    if (currentData(BitmapRole).toUInt() != 0)
         option.currentText.clear();
     option.currentText =
         option.fontMetrics.elidedText(option.currentText, Qt::ElideRight, field.width() - picture - Margins);
