@@ -4157,6 +4157,166 @@ What stood there before is untouched, and your changes stay in the open standard
         <extracomment>Label in the pane of the arrowheads of annotations.</extracomment>
         <translation>A&amp;rrowhead style</translation>
     </message>
+    <message id="1076.1000">
+        <source>Length (for the custom unit system)</source>
+        <extracomment>Heading in a pane of a check.</extracomment>
+        <translation>Length (for the custom unit system)</translation>
+    </message>
+    <message id="1076.1001">
+        <source>Mass properties (for the custom unit system)</source>
+        <extracomment>Heading in a pane of a check.</extracomment>
+        <translation>Mass properties (for the custom unit system)</translation>
+    </message>
+    <message id="1076.1002">
+        <source>Dual length</source>
+        <extracomment>Heading in a pane of a check.</extracomment>
+        <translation>Dual length</translation>
+    </message>
+    <message id="1076.1003">
+        <source>Angle</source>
+        <extracomment>Heading in a pane of a check.</extracomment>
+        <translation>Angle</translation>
+    </message>
+    <message id="1076.1029">
+        <source>Num&amp;ber format</source>
+        <extracomment>Label in a pane of a check. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
+        <translation>Num&amp;ber format</translation>
+    </message>
+    <message id="1076.1096">
+        <source>Length &amp;unit</source>
+        <extracomment>Label in a pane of a check. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
+        <translation>Length &amp;unit</translation>
+    </message>
+    <message id="1076.1098">
+        <source>Dec&amp;imal places</source>
+        <extracomment>Label in a pane of a check. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
+        <translation>Dec&amp;imal places</translation>
+    </message>
+    <message id="1076.1101">
+        <source>F&amp;raction denominator</source>
+        <extracomment>Label in a pane of a check. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
+        <translation>F&amp;raction denominator</translation>
+    </message>
+    <message id="1076.1104">
+        <source>&amp;Angle unit</source>
+        <extracomment>Label in a pane of a check. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
+        <translation>&amp;Angle unit</translation>
+    </message>
+    <message id="1076.1105">
+        <source>Round to nearest fraction</source>
+        <extracomment>Label in a pane of a check. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
+        <translation>Round to nearest fraction</translation>
+    </message>
+    <message id="1076.1106">
+        <source>Decimal places</source>
+        <extracomment>Label in a pane of a check. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
+        <translation>Decimal places</translation>
+    </message>
+    <message id="1076.1109">
+        <source>&amp;Length unit</source>
+        <extracomment>Label in a pane of a check. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
+        <translation>&amp;Length unit</translation>
+    </message>
+    <message id="1076.1110">
+        <source>&amp;Decimal places</source>
+        <extracomment>Label in a pane of a check. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
+        <translation>&amp;Decimal places</translation>
+    </message>
+    <message id="1076.1113">
+        <source>Fraction denomina&amp;tor</source>
+        <extracomment>Label in a pane of a check. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
+        <translation>Fraction denomina&amp;tor</translation>
+    </message>
+    <message id="1076.1116">
+        <source>Round to nearest fraction</source>
+        <extracomment>Label in a pane of a check. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
+        <translation>Round to nearest fraction</translation>
+    </message>
+    <message id="1076.1118">
+        <source>Len&amp;gth unit</source>
+        <extracomment>Label in a pane of a check. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
+        <translation>Len&amp;gth unit</translation>
+    </message>
+    <message id="1076.1119">
+        <source>Decimal &amp;places</source>
+        <extracomment>Label in a pane of a check. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
+        <translation>Decimal &amp;places</translation>
+    </message>
+    <message id="1076.1122">
+        <source>&amp;Mass unit</source>
+        <extracomment>Label in a pane of a check. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
+        <translation>&amp;Mass unit</translation>
+    </message>
+    <message id="1076.1123">
+        <source>&amp;Volume unit</source>
+        <extracomment>Label in a pane of a check. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
+        <translation>&amp;Volume unit</translation>
+    </message>
+    <message id="1076.1124">
+        <source>F&amp;orce unit</source>
+        <extracomment>Label in a pane of a check. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
+        <translation>F&amp;orce unit</translation>
+    </message>
+    <message id="1076.1127">
+        <source>Unit &amp;system</source>
+        <extracomment>Label in a pane of a check. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
+        <translation>Unit &amp;system</translation>
+    </message>
+    <message id="1076.1132">
+        <source>&amp;Number format</source>
+        <extracomment>Label in a pane of a check. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
+        <translation>&amp;Number format</translation>
+    </message>
+    <message id="1077.1000">
+        <source>Length</source>
+        <extracomment>Heading in a pane of a check.</extracomment>
+        <translation>Length</translation>
+    </message>
+    <message id="1077.1003">
+        <source>Angle</source>
+        <extracomment>Heading in a pane of a check.</extracomment>
+        <translation>Angle</translation>
+    </message>
+    <message id="1077.1029">
+        <source>&amp;Number format</source>
+        <extracomment>Label in a pane of a check. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
+        <translation>&amp;Number format</translation>
+    </message>
+    <message id="1077.1104">
+        <source>&amp;Angle unit</source>
+        <extracomment>Label in a pane of a check. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
+        <translation>&amp;Angle unit</translation>
+    </message>
+    <message id="1077.1106">
+        <source>Decimal &amp;places</source>
+        <extracomment>Label in a pane of a check. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
+        <translation>Decimal &amp;places</translation>
+    </message>
+    <message id="1077.1109">
+        <source>&amp;Length unit</source>
+        <extracomment>Label in a pane of a check. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
+        <translation>&amp;Length unit</translation>
+    </message>
+    <message id="1077.1110">
+        <source>&amp;Decimal places</source>
+        <extracomment>Label in a pane of a check. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
+        <translation>&amp;Decimal places</translation>
+    </message>
+    <message id="1077.1113">
+        <source>Fraction den&amp;ominator</source>
+        <extracomment>Label in a pane of a check. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
+        <translation>Fraction den&amp;ominator</translation>
+    </message>
+    <message id="1077.1116">
+        <source>&amp;Round to nearest fraction</source>
+        <extracomment>Label in a pane of a check. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
+        <translation>&amp;Round to nearest fraction</translation>
+    </message>
+    <message id="1077.1133">
+        <source>Use the units of the docu&amp;ment</source>
+        <extracomment>Label in a pane of a check. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
+        <translation>Use the units of the docu&amp;ment</translation>
+    </message>
     <message id="1080.1000">
         <source>&amp;Document units</source>
         <extracomment>Choice in the panes of the font checks: the text height is given in the length unit.</extracomment>
@@ -4291,6 +4451,141 @@ What stood there before is untouched, and your changes stay in the open standard
         <source>Run with the configuration of the d&amp;ocument</source>
         <extracomment>Choice on the options page.</extracomment>
         <translation>Run with the configuration of the d&amp;ocument</translation>
+    </message>
+    <message id="1565.1265">
+        <source>Display &amp;mode</source>
+        <extracomment>Label in a pane of a check. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
+        <translation>Display &amp;mode</translation>
+    </message>
+    <message id="1568.1261">
+        <source>&amp;Linear dimensions</source>
+        <extracomment>Label in a pane of a check. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
+        <translation>&amp;Linear dimensions</translation>
+    </message>
+    <message id="1568.1520">
+        <source>&amp;Radial dimensions</source>
+        <extracomment>Label in a pane of a check. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
+        <translation>&amp;Radial dimensions</translation>
+    </message>
+    <message id="1568.1523">
+        <source>&amp;Angular dimensions</source>
+        <extracomment>Label in a pane of a check. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
+        <translation>&amp;Angular dimensions</translation>
+    </message>
+    <message id="1568.1526">
+        <source>Cha&amp;mfer dimensions</source>
+        <extracomment>Label in a pane of a check. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
+        <translation>Cha&amp;mfer dimensions</translation>
+    </message>
+    <message id="1569.1000">
+        <source>Precision settings</source>
+        <extracomment>Heading in a pane of a check.</extracomment>
+        <translation>Precision settings</translation>
+    </message>
+    <message id="1569.1001">
+        <source>Tolerance values</source>
+        <extracomment>Heading in a pane of a check.</extracomment>
+        <translation>Tolerance values</translation>
+    </message>
+    <message id="1569.1256">
+        <source>Linear &amp;precision</source>
+        <extracomment>Label in a pane of a check. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
+        <translation>Linear &amp;precision</translation>
+    </message>
+    <message id="1569.1257">
+        <source>Linear &amp;tolerance</source>
+        <extracomment>Label in a pane of a check. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
+        <translation>Linear &amp;tolerance</translation>
+    </message>
+    <message id="1569.1260">
+        <source>&amp;Dual precision</source>
+        <extracomment>Label in a pane of a check. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
+        <translation>&amp;Dual precision</translation>
+    </message>
+    <message id="1569.1262">
+        <source>Dual t&amp;olerance</source>
+        <extracomment>Label in a pane of a check. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
+        <translation>Dual t&amp;olerance</translation>
+    </message>
+    <message id="1569.1272">
+        <source>An&amp;gular precision</source>
+        <extracomment>Label in a pane of a check. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
+        <translation>An&amp;gular precision</translation>
+    </message>
+    <message id="1569.1273">
+        <source>Angular tolera&amp;nce</source>
+        <extracomment>Label in a pane of a check. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
+        <translation>Angular tolera&amp;nce</translation>
+    </message>
+    <message id="1569.1321">
+        <source>To compare</source>
+        <extracomment>Label in a pane of a check. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
+        <translation>To compare</translation>
+    </message>
+    <message id="1569.1322">
+        <source>Precision &amp;settings</source>
+        <extracomment>Label in a pane of a check. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
+        <translation>Precision &amp;settings</translation>
+    </message>
+    <message id="1569.1323">
+        <source>Tolerance &amp;values</source>
+        <extracomment>Label in a pane of a check. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
+        <translation>Tolerance &amp;values</translation>
+    </message>
+    <message id="1569.1328">
+        <source>Linear &amp;upper tolerance</source>
+        <extracomment>Label in a pane of a check. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
+        <translation>Linear &amp;upper tolerance</translation>
+    </message>
+    <message id="1569.1329">
+        <source>L&amp;inear lower tolerance</source>
+        <extracomment>Label in a pane of a check. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
+        <translation>L&amp;inear lower tolerance</translation>
+    </message>
+    <message id="1569.1331">
+        <source>Angular upper tole&amp;rance</source>
+        <extracomment>Label in a pane of a check. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
+        <translation>Angular upper tole&amp;rance</translation>
+    </message>
+    <message id="1569.1332">
+        <source>Angu&amp;lar lower tolerance</source>
+        <extracomment>Label in a pane of a check. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
+        <translation>Angu&amp;lar lower tolerance</translation>
+    </message>
+    <message id="1569.1338">
+        <source>Dimensions to chec&amp;k</source>
+        <extracomment>Label in a pane of a check. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
+        <translation>Dimensions to chec&amp;k</translation>
+    </message>
+    <message id="1569.1340">
+        <source>Linear</source>
+        <extracomment>Label in a pane of a check. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
+        <translation>Linear</translation>
+    </message>
+    <message id="1569.1341">
+        <source>Angular</source>
+        <extracomment>Label in a pane of a check. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
+        <translation>Angular</translation>
+    </message>
+    <message id="1574.1083">
+        <source>Visible gap e&amp;xtension</source>
+        <extracomment>Label in a pane of a check. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
+        <translation>Visible gap e&amp;xtension</translation>
+    </message>
+    <message id="1574.1285">
+        <source>Visible gap &amp;distance</source>
+        <extracomment>Label in a pane of a check. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
+        <translation>Visible gap &amp;distance</translation>
+    </message>
+    <message id="1574.1288">
+        <source>Use the setting of the docu&amp;ment</source>
+        <extracomment>Label in a pane of a check. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
+        <translation>Use the setting of the docu&amp;ment</translation>
+    </message>
+    <message id="1575.1289">
+        <source>Virtual &amp;sharp</source>
+        <extracomment>Label in a pane of a check. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
+        <translation>Virtual &amp;sharp</translation>
     </message>
 </context>
 </TS>

@@ -4157,6 +4157,166 @@ Ihr bisheriger Inhalt ist unversehrt, und Ihre Änderungen bleiben im geöffnete
         <extracomment>Label in the pane of the arrowheads of annotations.</extracomment>
         <translation>Fo&amp;rm der Pfeilspitze</translation>
     </message>
+    <message id="1076.1000">
+        <source>Length (for the custom unit system)</source>
+        <extracomment>Heading in a pane of a check.</extracomment>
+        <translation>Länge (für das benutzerdefinierte Einheitensystem)</translation>
+    </message>
+    <message id="1076.1001">
+        <source>Mass properties (for the custom unit system)</source>
+        <extracomment>Heading in a pane of a check.</extracomment>
+        <translation>Masseneigenschaften (für das benutzerdefinierte Einheitensystem)</translation>
+    </message>
+    <message id="1076.1002">
+        <source>Dual length</source>
+        <extracomment>Heading in a pane of a check.</extracomment>
+        <translation>Länge in der zweiten Einheit</translation>
+    </message>
+    <message id="1076.1003">
+        <source>Angle</source>
+        <extracomment>Heading in a pane of a check.</extracomment>
+        <translation>Winkel</translation>
+    </message>
+    <message id="1076.1029">
+        <source>Num&amp;ber format</source>
+        <extracomment>Label in a pane of a check. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
+        <translation>Zahlenfor&amp;mat</translation>
+    </message>
+    <message id="1076.1096">
+        <source>Length &amp;unit</source>
+        <extracomment>Label in a pane of a check. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
+        <translation>Län&amp;geneinheit</translation>
+    </message>
+    <message id="1076.1098">
+        <source>Dec&amp;imal places</source>
+        <extracomment>Label in a pane of a check. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
+        <translation>Dez&amp;imalstellen</translation>
+    </message>
+    <message id="1076.1101">
+        <source>F&amp;raction denominator</source>
+        <extracomment>Label in a pane of a check. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
+        <translation>Bru&amp;chnenner</translation>
+    </message>
+    <message id="1076.1104">
+        <source>&amp;Angle unit</source>
+        <extracomment>Label in a pane of a check. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
+        <translation>&amp;Winkeleinheit</translation>
+    </message>
+    <message id="1076.1105">
+        <source>Round to nearest fraction</source>
+        <extracomment>Label in a pane of a check. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
+        <translation>Auf n&amp;ächsten Bruch runden</translation>
+    </message>
+    <message id="1076.1106">
+        <source>Decimal places</source>
+        <extracomment>Label in a pane of a check. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
+        <translation>Dezimalstellen</translation>
+    </message>
+    <message id="1076.1109">
+        <source>&amp;Length unit</source>
+        <extracomment>Label in a pane of a check. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
+        <translation>&amp;Längeneinheit</translation>
+    </message>
+    <message id="1076.1110">
+        <source>&amp;Decimal places</source>
+        <extracomment>Label in a pane of a check. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
+        <translation>De&amp;zimalstellen</translation>
+    </message>
+    <message id="1076.1113">
+        <source>Fraction denomina&amp;tor</source>
+        <extracomment>Label in a pane of a check. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
+        <translation>B&amp;ruchnenner</translation>
+    </message>
+    <message id="1076.1116">
+        <source>Round to nearest fraction</source>
+        <extracomment>Label in a pane of a check. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
+        <translation>A&amp;uf nächsten Bruch runden</translation>
+    </message>
+    <message id="1076.1118">
+        <source>Len&amp;gth unit</source>
+        <extracomment>Label in a pane of a check. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
+        <translation>Längen&amp;einheit</translation>
+    </message>
+    <message id="1076.1119">
+        <source>Decimal &amp;places</source>
+        <extracomment>Label in a pane of a check. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
+        <translation>Dezimalstelle&amp;n</translation>
+    </message>
+    <message id="1076.1122">
+        <source>&amp;Mass unit</source>
+        <extracomment>Label in a pane of a check. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
+        <translation>M&amp;asseneinheit</translation>
+    </message>
+    <message id="1076.1123">
+        <source>&amp;Volume unit</source>
+        <extracomment>Label in a pane of a check. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
+        <translation>&amp;Volumeneinheit</translation>
+    </message>
+    <message id="1076.1124">
+        <source>F&amp;orce unit</source>
+        <extracomment>Label in a pane of a check. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
+        <translation>Kraf&amp;teinheit</translation>
+    </message>
+    <message id="1076.1127">
+        <source>Unit &amp;system</source>
+        <extracomment>Label in a pane of a check. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
+        <translation>Einheiten&amp;system</translation>
+    </message>
+    <message id="1076.1132">
+        <source>&amp;Number format</source>
+        <extracomment>Label in a pane of a check. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
+        <translation>Zahlenf&amp;ormat</translation>
+    </message>
+    <message id="1077.1000">
+        <source>Length</source>
+        <extracomment>Heading in a pane of a check.</extracomment>
+        <translation>Länge</translation>
+    </message>
+    <message id="1077.1003">
+        <source>Angle</source>
+        <extracomment>Heading in a pane of a check.</extracomment>
+        <translation>Winkel</translation>
+    </message>
+    <message id="1077.1029">
+        <source>&amp;Number format</source>
+        <extracomment>Label in a pane of a check. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
+        <translation>Zahlenf&amp;ormat</translation>
+    </message>
+    <message id="1077.1104">
+        <source>&amp;Angle unit</source>
+        <extracomment>Label in a pane of a check. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
+        <translation>&amp;Winkeleinheit</translation>
+    </message>
+    <message id="1077.1106">
+        <source>Decimal &amp;places</source>
+        <extracomment>Label in a pane of a check. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
+        <translation>Dezimalstelle&amp;n</translation>
+    </message>
+    <message id="1077.1109">
+        <source>&amp;Length unit</source>
+        <extracomment>Label in a pane of a check. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
+        <translation>&amp;Längeneinheit</translation>
+    </message>
+    <message id="1077.1110">
+        <source>&amp;Decimal places</source>
+        <extracomment>Label in a pane of a check. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
+        <translation>De&amp;zimalstellen</translation>
+    </message>
+    <message id="1077.1113">
+        <source>Fraction den&amp;ominator</source>
+        <extracomment>Label in a pane of a check. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
+        <translation>B&amp;ruchnenner</translation>
+    </message>
+    <message id="1077.1116">
+        <source>&amp;Round to nearest fraction</source>
+        <extracomment>Label in a pane of a check. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
+        <translation>A&amp;uf nächsten Bruch runden</translation>
+    </message>
+    <message id="1077.1133">
+        <source>Use the units of the docu&amp;ment</source>
+        <extracomment>Label in a pane of a check. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
+        <translation>Einheiten des Doku&amp;ments verwenden</translation>
+    </message>
     <message id="1080.1000">
         <source>&amp;Document units</source>
         <extracomment>Choice in the panes of the font checks: the text height is given in the length unit.</extracomment>
@@ -4291,6 +4451,141 @@ Ihr bisheriger Inhalt ist unversehrt, und Ihre Änderungen bleiben im geöffnete
         <source>Run with the configuration of the d&amp;ocument</source>
         <extracomment>Choice on the options page.</extracomment>
         <translation>Mit der Konfiguration des D&amp;okuments ausführen</translation>
+    </message>
+    <message id="1565.1265">
+        <source>Display &amp;mode</source>
+        <extracomment>Label in a pane of a check. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
+        <translation>Darstellungs&amp;art</translation>
+    </message>
+    <message id="1568.1261">
+        <source>&amp;Linear dimensions</source>
+        <extracomment>Label in a pane of a check. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
+        <translation>&amp;Längenmaße</translation>
+    </message>
+    <message id="1568.1520">
+        <source>&amp;Radial dimensions</source>
+        <extracomment>Label in a pane of a check. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
+        <translation>&amp;Radialmaße</translation>
+    </message>
+    <message id="1568.1523">
+        <source>&amp;Angular dimensions</source>
+        <extracomment>Label in a pane of a check. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
+        <translation>&amp;Winkelmaße</translation>
+    </message>
+    <message id="1568.1526">
+        <source>Cha&amp;mfer dimensions</source>
+        <extracomment>Label in a pane of a check. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
+        <translation>Fasen&amp;maße</translation>
+    </message>
+    <message id="1569.1000">
+        <source>Precision settings</source>
+        <extracomment>Heading in a pane of a check.</extracomment>
+        <translation>Genauigkeit</translation>
+    </message>
+    <message id="1569.1001">
+        <source>Tolerance values</source>
+        <extracomment>Heading in a pane of a check.</extracomment>
+        <translation>Toleranzwerte</translation>
+    </message>
+    <message id="1569.1256">
+        <source>Linear &amp;precision</source>
+        <extracomment>Label in a pane of a check. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
+        <translation>&amp;Längenmaß</translation>
+    </message>
+    <message id="1569.1257">
+        <source>Linear &amp;tolerance</source>
+        <extracomment>Label in a pane of a check. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
+        <translation>Längent&amp;oleranz</translation>
+    </message>
+    <message id="1569.1260">
+        <source>&amp;Dual precision</source>
+        <extracomment>Label in a pane of a check. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
+        <translation>&amp;Zweite Einheit</translation>
+    </message>
+    <message id="1569.1262">
+        <source>Dual t&amp;olerance</source>
+        <extracomment>Label in a pane of a check. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
+        <translation>Toleranz der zweiten &amp;Einheit</translation>
+    </message>
+    <message id="1569.1272">
+        <source>An&amp;gular precision</source>
+        <extracomment>Label in a pane of a check. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
+        <translation>W&amp;inkelmaß</translation>
+    </message>
+    <message id="1569.1273">
+        <source>Angular tolera&amp;nce</source>
+        <extracomment>Label in a pane of a check. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
+        <translation>Winkeltole&amp;ranz</translation>
+    </message>
+    <message id="1569.1321">
+        <source>To compare</source>
+        <extracomment>Label in a pane of a check. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
+        <translation>Zu vergleichen</translation>
+    </message>
+    <message id="1569.1322">
+        <source>Precision &amp;settings</source>
+        <extracomment>Label in a pane of a check. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
+        <translation>&amp;Genauigkeit</translation>
+    </message>
+    <message id="1569.1323">
+        <source>Tolerance &amp;values</source>
+        <extracomment>Label in a pane of a check. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
+        <translation>&amp;Toleranzwerte</translation>
+    </message>
+    <message id="1569.1328">
+        <source>Linear &amp;upper tolerance</source>
+        <extracomment>Label in a pane of a check. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
+        <translation>Länge, oberes &amp;Abmaß</translation>
+    </message>
+    <message id="1569.1329">
+        <source>L&amp;inear lower tolerance</source>
+        <extracomment>Label in a pane of a check. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
+        <translation>Länge, &amp;unteres Abmaß</translation>
+    </message>
+    <message id="1569.1331">
+        <source>Angular upper tole&amp;rance</source>
+        <extracomment>Label in a pane of a check. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
+        <translation>Winkel, obere&amp;s Abmaß</translation>
+    </message>
+    <message id="1569.1332">
+        <source>Angu&amp;lar lower tolerance</source>
+        <extracomment>Label in a pane of a check. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
+        <translation>Wi&amp;nkel, unteres Abmaß</translation>
+    </message>
+    <message id="1569.1338">
+        <source>Dimensions to chec&amp;k</source>
+        <extracomment>Label in a pane of a check. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
+        <translation>Zu prüfen&amp;de Maße</translation>
+    </message>
+    <message id="1569.1340">
+        <source>Linear</source>
+        <extracomment>Label in a pane of a check. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
+        <translation>Längenmaße</translation>
+    </message>
+    <message id="1569.1341">
+        <source>Angular</source>
+        <extracomment>Label in a pane of a check. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
+        <translation>Winkelmaße</translation>
+    </message>
+    <message id="1574.1083">
+        <source>Visible gap e&amp;xtension</source>
+        <extracomment>Label in a pane of a check. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
+        <translation>&amp;Verlängerung der Lücke</translation>
+    </message>
+    <message id="1574.1285">
+        <source>Visible gap &amp;distance</source>
+        <extracomment>Label in a pane of a check. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
+        <translation>&amp;Abstand der Lücke</translation>
+    </message>
+    <message id="1574.1288">
+        <source>Use the setting of the docu&amp;ment</source>
+        <extracomment>Label in a pane of a check. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
+        <translation>Einstellung des Doku&amp;ments verwenden</translation>
+    </message>
+    <message id="1575.1289">
+        <source>Virtual &amp;sharp</source>
+        <extracomment>Label in a pane of a check. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
+        <translation>Virtuelle &amp;Ecke</translation>
     </message>
 </context>
 </TS>

@@ -1,10 +1,14 @@
 #include "dialogs/PaneFactory.h"
 
 #include "dialogs/ArrowPanes.h"
+#include "dialogs/DimExtVisibleGapDlg.h"
+#include "dialogs/DimPrecisionDlg.h"
 #include "dialogs/FontPanes.h"
 #include "dialogs/KeepingCheckDlg.h"
+#include "dialogs/PicturePanes.h"
 #include "dialogs/PlainPanes.h"
 #include "dialogs/StandardCheckDlg.h"
+#include "dialogs/UnitPanes.h"
 
 #include <algorithm>
 #include <iterator>
@@ -54,6 +58,13 @@ constexpr PaneClass Classes[] = {
     {"CDocArrowCheckDlg", Make<CDocArrowCheckDlg>},
     {"CDimArrowCheckDlg", Make<CDimArrowCheckDlg>},
     {"CAnntArrowCheckDlg", Make<CAnntArrowCheckDlg>},
+    {"CDocUnitDlg", Make<CDocUnitDlg>},
+    {"CDimUnitCheckDlg", Make<CDimUnitCheckDlg>},
+    {"CDimPrecisionDlg", Make<CDimPrecisionDlg>},
+    {"CDimTextAlignmentDlg", Make<CDimTextAlignmentDlg>},
+    {"CDrawingDocDimExtVisibleGapDlg", Make<CDrawingDocDimExtVisibleGapDlg>},
+    {"CVirtualSharpCheckDlg", Make<CVirtualSharpCheckDlg>},
+    {"CDrawingDocDisplayModeDlg", Make<CDrawingDocDisplayModeDlg>},
 };
 
 // The numbers of a pane that keeps the values of its check.
@@ -65,11 +76,10 @@ struct KeepingPane {
 };
 
 constexpr KeepingPane KeepingPanes[] = {
-    {105, 1146, 1723, 1003}, {108, 1147, 1662, 1004}, {122, 1403, 1964, 1018}, {123, 1408, 139, 1019},
-    {127, 1438, 2425, 1020}, {405, 1164, 1689, 1204}, {408, 1259, 2272, 1207}, {409, 1258, 2273, 1208},
-    {302, 1167, 1605, 1301}, {303, 1169, 1582, 1302}, {310, 1166, 1925, 1304}, {312, 1265, 1743, 1306},
-    {314, 1407, 1759, 1308}, {501, 1171, 1822, 1401}, {503, 1264, 1740, 1402}, {601, 1175, 2017, 1501},
-    {603, 1173, 1585, 1503}, {604, 1176, 1713, 1504}, {607, 1406, 1753, 1506}, {608, 32960, 32939, 1506},
+    {105, 1146, 1723, 1003},   {122, 1403, 1964, 1018}, {127, 1438, 2425, 1020}, {302, 1167, 1605, 1301},
+    {303, 1169, 1582, 1302},   {310, 1166, 1925, 1304}, {501, 1171, 1822, 1401}, {503, 1264, 1740, 1402},
+    {601, 1175, 2017, 1501},   {603, 1173, 1585, 1503}, {604, 1176, 1713, 1504}, {607, 1406, 1753, 1506},
+    {608, 32960, 32939, 1506},
 };
 
 } // namespace

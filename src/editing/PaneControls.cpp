@@ -7,6 +7,7 @@
 #include "editing/FontList.h"
 #include "editing/GroupBoxExt.h"
 #include "editing/MyStatic.h"
+#include "editing/NumberSpin.h"
 #include "editing/PaneLabels.h"
 #include "editing/PictureBox.h"
 #include "platform/widgets/TemplateLoader.h"
@@ -28,6 +29,7 @@ bool RegisterAll() {
     Register<CHeading>("CHeading");
     Register<CHint>("CHint");
     Register<CMyStatic>("CMyStatic");
+    Register<CNumberSpin>("CNumberSpin");
     Register<CPictureBox>("CPictureBox");
     return true;
 }
