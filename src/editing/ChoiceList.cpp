@@ -12,7 +12,10 @@ constexpr int Margin = 1; // at a scale of 1.5 the rows would cover the frame's 
 } // namespace
 
 QSize CChoiceList::RowDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const {
-    return {QStyledItemDelegate::sizeHint(option, index).width(), RowHeight};
+    // In columns a row fills its cell: one row is measured for all, and others may be longer.
+    const auto* list = qobject_cast<const QListView*>(option.widget);
+    const QSize cell = list ? list->gridSize() : QSize();
+    return {cell.isValid() ? cell.width() : QStyledItemDelegate::sizeHint(option, index).width(), RowHeight};
 }
 
 CChoiceList::CChoiceList(QWidget* parent) : QListWidget(parent) {

@@ -5,6 +5,7 @@
 #include "platform/LanguageLibrary.h"
 
 #include <QComboBox>
+#include <QLineEdit>
 #include <QSignalBlocker>
 
 namespace {
@@ -29,6 +30,7 @@ NumberPair::NumberPair(CACInfoManagerDlg& window, int comparison, int field, uns
         m_comparison->addItem(OperatorText(code));
     m_comparison->setAccessibleName(LoadString(ComparisonOf).arg(LoadString(parameter)));
     m_value->setAccessibleName(LoadString(parameter));
+    m_value->findChild<QLineEdit*>()->setAccessibleName(LoadString(parameter));
     connect(m_comparison, &QComboBox::activated, this, &NumberPair::OperatorChosen);
     connect(m_value, &QSpinBox::textChanged, this, &NumberPair::ValueChanged);
     connect(m_value, &QSpinBox::editingFinished, this, &NumberPair::Left);
