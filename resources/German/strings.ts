@@ -4555,7 +4555,7 @@ Ihr bisheriger Inhalt ist unversehrt, und Ihre Änderungen bleiben im geöffnete
     <message id="1569.1338">
         <source>Dimensions to chec&amp;k</source>
         <extracomment>Label in a pane of a check. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
-        <translation>Zu prüfen&amp;de Maße</translation>
+        <translation>Zu prüfende &amp;Maße</translation>
     </message>
     <message id="1569.1340">
         <source>Linear</source>
