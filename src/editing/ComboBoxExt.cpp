@@ -12,6 +12,7 @@
 namespace {
 
 constexpr int BitmapRole = Qt::UserRole + 1; // the number of a row's picture, 0 for none
+constexpr int RowsAtAGlance = 12;            // enough for all styles of arrowheads
 
 } // namespace
 
@@ -19,6 +20,7 @@ CComboBoxExt::CComboBoxExt(QWidget* parent) : QComboBox(parent) {
     setFocusPolicy(Qt::StrongFocus);
     setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     setMinimumContentsLength(6);
+    setMaxVisibleItems(RowsAtAGlance);
     connect(this, &QComboBox::currentIndexChanged, this, &CComboBoxExt::ShowTooltip);
 }
 
