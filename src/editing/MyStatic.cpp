@@ -76,7 +76,7 @@ bool CMyStatic::UsesList() const {
 
 // What must equal one text can be corrected to that text alone.
 bool CMyStatic::IsFixed() const {
-    return Choices.Operator == OpEqual && Choices.Count() > 0 && Choices.TakesWords();
+    return Choices.Operator == OpEqual && !Choices.Strings.isEmpty() && Choices.TakesWords();
 }
 
 void CMyStatic::RefreshDisplay() {
