@@ -118,6 +118,5 @@ void CAdminModView::StepHistory(bool isUndo) {
 }
 
 void CAdminModView::Print(PrintMode mode) {
-    CommitPending();
     m_print(GetStandard(), mode, this);
 }

@@ -192,6 +192,19 @@ TEST_F(ViewCommands, PrintingIsHandedOnInItsTwoModes) {
     EXPECT_EQ(prints[1], std::pair(&Standard(), PrintMode::AtOnce));
 }
 
+TEST_F(ViewCommands, PrintingLeavesTheHistoryAsItIs) {
+    Send(AddDrafting);
+    Gui::Click(*Pane(Drafting).GetDlgItem<QCheckBox>(Iso));
+    SetCriticality(Drafting, 3);
+    Send(Command::Undo);
+    const int steps = Standard().GetHistoryIndex();
+    EXPECT_TRUE(Send(Command::Print));
+    EXPECT_TRUE(Send(Command::PrintAtOnce));
+    EXPECT_EQ(prints.size(), 2u);
+    EXPECT_EQ(Standard().GetHistoryIndex(), steps);
+    EXPECT_TRUE(Standard().CanRedo());
+}
+
 TEST_F(ViewCommands, CloseAllClosesEveryDocument) {
     New();
     Send(Command::CloseAll);
