@@ -56,7 +56,7 @@ template <class T> bool CorrectionSatisfies(const CParameter<T>& parameter) {
     if constexpr (std::is_same_v<T, CString*>) {
         std::vector<CString> values;
         for (const CString* value : parameter.Values)
-            values.push_back(TextOfValue(const_cast<CString*>(value)));
+            values.push_back(value ? *value : CString());
         return parameter.Correction && TextSatisfies(parameter.Operator, *parameter.Correction, values);
     } else if constexpr (std::is_arithmetic_v<T>) {
         const std::vector<double> values(parameter.Values.begin(), parameter.Values.end());
