@@ -3,6 +3,7 @@
 #include "editing/CorrectionChoices.h"
 #include "editing/ExtRichEditCtrl.h"
 #include "editing/FontList.h"
+#include "editing/ParameterControls.h"
 #include "engines/TextServices.h"
 #include "engines/UIUtilities.h"
 #include "engines/UnitConvertor.h"
@@ -43,7 +44,7 @@ enum Parameter : unsigned {
 
 constexpr unsigned Height = FontControls::HeightParameter, Spacing = FontControls::SpacingParameter;
 constexpr unsigned ComparisonOf = 62120; // %1 the parameter
-constexpr unsigned AnyText = 1632, YesText = 1660, NoText = 1661;
+constexpr unsigned AnyText = 1632;
 constexpr int FontStyleCount = 4; // codes from 1
 constexpr int Sizes[] = {8, 9, 10, 11, 12, 14, 16, 18, 20, 22, 24, 26, 28, 36, 48, 72};
 constexpr char NumberListCharacters[] = "1234567890,.";
@@ -75,28 +76,8 @@ CString StyleText(long code) {
     return text;
 }
 
-// Puts a parameter out of force.
-template <class T> CParameter<T>& Emptied(CParameter<T>& parameter) {
-    parameter.ClearValues();
-    parameter.Operator = OpNone;
-    return parameter;
-}
-
 void ChooseText(QComboBox& combo, const CString& text) {
     combo.setCurrentIndex(combo.findText(text, Qt::MatchExactly | Qt::MatchCaseSensitive));
-}
-
-void LoadYesNo(QComboBox& combo, const CParameter<int>& parameter) {
-    const bool isYes = parameter.Values.Count > 0 && parameter.Values[0] != 0;
-    ChooseText(combo, LoadString(parameter.Operator == OpNone ? AnyText : isYes ? YesText : NoText));
-}
-
-void StoreYesNo(const QComboBox& combo, CParameter<int>& parameter) {
-    Emptied(parameter);
-    if (combo.currentIndex() <= 0)
-        return;
-    parameter.Values.Add(combo.currentText() == LoadString(YesText) ? 1 : 0);
-    parameter.Operator = OpEqual;
 }
 
 } // namespace
@@ -147,18 +128,15 @@ void FontControls::FillLists() {
     sizes.setCompleter(nullptr); // would make 10 of a 1
     for (const int size : Sizes)
         sizes.addItem(FormatInt(size));
-    for (const int number : {StrikeoutBox, UnderlineBox})
-        Get<QComboBox>(number).addItems({LoadString(AnyText), LoadString(YesText), LoadString(NoText)});
+    for (const auto& [number, id] : YesNoBoxes)
+        FillYesNo(m_window, number, LoadString(id));
 }
 
 void FontControls::SetNames() {
     m_height.SetName(LoadString(Height));
     m_spacing.SetName(LoadString(Spacing));
-    constexpr std::pair<int, unsigned> names[] = {{Fonts, FontNames},
-                                                  {Styles, FontStyles},
-                                                  {StrikeoutBox, Strikeout},
-                                                  {UnderlineBox, Underline},
-                                                  {PointSizes, Points}};
+    constexpr std::pair<int, unsigned> names[] = {
+        {Fonts, FontNames}, {Styles, FontStyles}, {PointSizes, Points}};
     for (const auto& [number, name] : names)
         Get<QWidget>(number).setAccessibleName(LoadString(name));
     Get<QComboBox>(PointSizes).lineEdit()->setAccessibleName(LoadString(Points));
@@ -287,8 +265,7 @@ void FontControls::Load(const CCheck& check) {
         LoadFonts(check);
         LoadHeights(check);
         for (const auto& [number, id] : YesNoBoxes)
-            if (const auto* parameter = check.GetIntParameter(id))
-                LoadYesNo(Get<QComboBox>(number), *parameter);
+            LoadYesNo(m_window, number, check.GetIntParameter(id));
     }
     ApplyEnableRules();
 }
@@ -345,8 +322,7 @@ void FontControls::Store(CCheck& check) const {
     StoreFonts(check);
     StoreHeights(check);
     for (const auto& [number, id] : YesNoBoxes)
-        if (auto* parameter = check.GetIntParameter(id))
-            StoreYesNo(Get<QComboBox>(number), *parameter);
+        StoreYesNo(m_window, number, check.GetIntParameter(id), OpEqual);
 }
 
 void FontControls::StoreFonts(CCheck& check) const {

@@ -67,8 +67,8 @@ void LoadYesNo(const ControlHost& pane, int number, const CParameter<int>* param
     auto* combo = pane.GetDlgItem<QComboBox>(number);
     if (!combo || !parameter)
         return;
-    const bool isTested = parameter->Operator != OpNone && parameter->Values.Count > 0;
-    combo->setCurrentIndex(!isTested ? 0 : parameter->Values[0] != 0 ? 1 : 2);
+    const bool isYes = parameter->Values.Count > 0 && parameter->Values[0] != 0;
+    combo->setCurrentIndex(parameter->Operator == OpNone ? 0 : isYes ? 1 : 2);
 }
 
 void StoreYesNo(const ControlHost& pane, int number, CParameter<int>* parameter, unsigned op) {
