@@ -4157,6 +4157,11 @@ What stood there before is untouched, and your changes stay in the open standard
         <extracomment>Label in the pane of the arrowheads of annotations.</extracomment>
         <translation>A&amp;rrowhead style</translation>
     </message>
+    <message id="1070.1080">
+        <source>&amp;Number of fixed components</source>
+        <extracomment>Label in the pane of the fixed components. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
+        <translation>&amp;Number of fixed components</translation>
+    </message>
     <message id="1076.1000">
         <source>Length (for the custom unit system)</source>
         <extracomment>Heading in a pane of a check.</extracomment>
@@ -4387,6 +4392,11 @@ What stood there before is untouched, and your changes stay in the open standard
         <extracomment>Heading in the dialog that adds font checks, over the boxes of the checks.</extracomment>
         <translation>Checks to add</translation>
     </message>
+    <message id="1081.1140">
+        <source>External reference s&amp;tate</source>
+        <extracomment>Label in the pane of the external references.</extracomment>
+        <translation>External reference s&amp;tate</translation>
+    </message>
     <message id="1093.1067">
         <source>Arrow placemen&amp;t</source>
         <extracomment>Label in the pane of the arrowheads of dimensions.</extracomment>
@@ -4452,10 +4462,25 @@ What stood there before is untouched, and your changes stay in the open standard
         <extracomment>Choice on the options page.</extracomment>
         <translation>Run with the configuration of the d&amp;ocument</translation>
     </message>
+    <message id="1429.1316">
+        <source>&amp;Do not show this message again</source>
+        <extracomment>Box in a message that may be switched off.</extracomment>
+        <translation>&amp;Do not show this message again</translation>
+    </message>
     <message id="1565.1265">
         <source>Display &amp;mode</source>
         <extracomment>Label in a pane of a check. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
         <translation>Display &amp;mode</translation>
+    </message>
+    <message id="1566.1270">
+        <source>&amp;Add...</source>
+        <extracomment>Button in the pane of the bend tables.</extracomment>
+        <translation>&amp;Add...</translation>
+    </message>
+    <message id="1566.1272">
+        <source>Bend &amp;table files</source>
+        <extracomment>Label in the pane of the bend tables.</extracomment>
+        <translation>Bend &amp;table files</translation>
     </message>
     <message id="1568.1261">
         <source>&amp;Linear dimensions</source>
@@ -4567,6 +4592,16 @@ What stood there before is untouched, and your changes stay in the open standard
         <extracomment>Label in a pane of a check. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
         <translation>Angular</translation>
     </message>
+    <message id="1573.1080">
+        <source>Interference &amp;volume</source>
+        <extracomment>Label in the pane of the interferences.</extracomment>
+        <translation>Interference &amp;volume</translation>
+    </message>
+    <message id="1573.1281">
+        <source>Interference &amp;options</source>
+        <extracomment>Label in the pane of the interferences.</extracomment>
+        <translation>Interference &amp;options</translation>
+    </message>
     <message id="1574.1083">
         <source>Visible gap e&amp;xtension</source>
         <extracomment>Label in a pane of a check. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
@@ -4586,6 +4621,46 @@ What stood there before is untouched, and your changes stay in the open standard
         <source>Virtual &amp;sharp</source>
         <extracomment>Label in a pane of a check. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
         <translation>Virtual &amp;sharp</translation>
+    </message>
+    <message id="1576.1274">
+        <source>Fo&amp;lders</source>
+        <extracomment>Label in the pane of the file locations.</extracomment>
+        <translation>Fo&amp;lders</translation>
+    </message>
+    <message id="1576.1325">
+        <source>&amp;Add...</source>
+        <extracomment>Button in the pane of the file locations.</extracomment>
+        <translation>&amp;Add...</translation>
+    </message>
+    <message id="1576.1329">
+        <source>Folder rule&amp;s</source>
+        <extracomment>Label in the pane of the file locations.</extracomment>
+        <translation>Folder rule&amp;s</translation>
+    </message>
+    <message id="1576.1341">
+        <source>File &amp;type</source>
+        <extracomment>Label in the pane of the file locations.</extracomment>
+        <translation>File &amp;type</translation>
+    </message>
+    <message id="32935.32940">
+        <source>&amp;No misalignment allowed</source>
+        <extracomment>Choice in the pane of the misaligned mates.</extracomment>
+        <translation>&amp;No misalignment allowed</translation>
+    </message>
+    <message id="32935.32941">
+        <source>Misalignment &amp;allowed</source>
+        <extracomment>Choice in the pane of the misaligned mates.</extracomment>
+        <translation>Misalignment &amp;allowed</translation>
+    </message>
+    <message id="32935.32942">
+        <source>&amp;Maximum misalignment</source>
+        <extracomment>Choice in the pane of the misaligned mates.</extracomment>
+        <translation>&amp;Maximum misalignment</translation>
+    </message>
+    <message id="32935.32943">
+        <source>Include &amp;subassemblies</source>
+        <extracomment>Box in the pane of the misaligned mates.</extracomment>
+        <translation>Include &amp;subassemblies</translation>
     </message>
 </context>
 </TS>

@@ -4157,6 +4157,11 @@ Ihr bisheriger Inhalt ist unversehrt, und Ihre Änderungen bleiben im geöffnete
         <extracomment>Label in the pane of the arrowheads of annotations.</extracomment>
         <translation>Fo&amp;rm der Pfeilspitze</translation>
     </message>
+    <message id="1070.1080">
+        <source>&amp;Number of fixed components</source>
+        <extracomment>Label in the pane of the fixed components. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
+        <translation>A&amp;nzahl fixierter Komponenten</translation>
+    </message>
     <message id="1076.1000">
         <source>Length (for the custom unit system)</source>
         <extracomment>Heading in a pane of a check.</extracomment>
@@ -4387,6 +4392,11 @@ Ihr bisheriger Inhalt ist unversehrt, und Ihre Änderungen bleiben im geöffnete
         <extracomment>Heading in the dialog that adds font checks, over the boxes of the checks.</extracomment>
         <translation>Hinzuzufügende Prüfungen</translation>
     </message>
+    <message id="1081.1140">
+        <source>External reference s&amp;tate</source>
+        <extracomment>Label in the pane of the external references.</extracomment>
+        <translation>Zus&amp;tand der externen Referenz</translation>
+    </message>
     <message id="1093.1067">
         <source>Arrow placemen&amp;t</source>
         <extracomment>Label in the pane of the arrowheads of dimensions.</extracomment>
@@ -4452,10 +4462,25 @@ Ihr bisheriger Inhalt ist unversehrt, und Ihre Änderungen bleiben im geöffnete
         <extracomment>Choice on the options page.</extracomment>
         <translation>Mit der Konfiguration des D&amp;okuments ausführen</translation>
     </message>
+    <message id="1429.1316">
+        <source>&amp;Do not show this message again</source>
+        <extracomment>Box in a message that may be switched off.</extracomment>
+        <translation>Diese Meldung &amp;nicht mehr anzeigen</translation>
+    </message>
     <message id="1565.1265">
         <source>Display &amp;mode</source>
         <extracomment>Label in a pane of a check. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
         <translation>Darstellungs&amp;art</translation>
+    </message>
+    <message id="1566.1270">
+        <source>&amp;Add...</source>
+        <extracomment>Button in the pane of the bend tables.</extracomment>
+        <translation>Hin&amp;zufügen...</translation>
+    </message>
+    <message id="1566.1272">
+        <source>Bend &amp;table files</source>
+        <extracomment>Label in the pane of the bend tables.</extracomment>
+        <translation>Biege&amp;tabellendateien</translation>
     </message>
     <message id="1568.1261">
         <source>&amp;Linear dimensions</source>
@@ -4567,6 +4592,16 @@ Ihr bisheriger Inhalt ist unversehrt, und Ihre Änderungen bleiben im geöffnete
         <extracomment>Label in a pane of a check. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
         <translation>Winkelmaße</translation>
     </message>
+    <message id="1573.1080">
+        <source>Interference &amp;volume</source>
+        <extracomment>Label in the pane of the interferences.</extracomment>
+        <translation>Kollisions&amp;volumen</translation>
+    </message>
+    <message id="1573.1281">
+        <source>Interference &amp;options</source>
+        <extracomment>Label in the pane of the interferences.</extracomment>
+        <translation>Kollisions&amp;optionen</translation>
+    </message>
     <message id="1574.1083">
         <source>Visible gap e&amp;xtension</source>
         <extracomment>Label in a pane of a check. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
@@ -4586,6 +4621,46 @@ Ihr bisheriger Inhalt ist unversehrt, und Ihre Änderungen bleiben im geöffnete
         <source>Virtual &amp;sharp</source>
         <extracomment>Label in a pane of a check. Access keys are unique in the pane and differ from those of the menu bar.</extracomment>
         <translation>Virtuelle &amp;Ecke</translation>
+    </message>
+    <message id="1576.1274">
+        <source>Fo&amp;lders</source>
+        <extracomment>Label in the pane of the file locations.</extracomment>
+        <translation>O&amp;rdner</translation>
+    </message>
+    <message id="1576.1325">
+        <source>&amp;Add...</source>
+        <extracomment>Button in the pane of the file locations.</extracomment>
+        <translation>Hin&amp;zufügen...</translation>
+    </message>
+    <message id="1576.1329">
+        <source>Folder rule&amp;s</source>
+        <extracomment>Label in the pane of the file locations.</extracomment>
+        <translation>Ordnerre&amp;geln</translation>
+    </message>
+    <message id="1576.1341">
+        <source>File &amp;type</source>
+        <extracomment>Label in the pane of the file locations.</extracomment>
+        <translation>Datei&amp;typ</translation>
+    </message>
+    <message id="32935.32940">
+        <source>&amp;No misalignment allowed</source>
+        <extracomment>Choice in the pane of the misaligned mates.</extracomment>
+        <translation>Kein Versatz &amp;zulässig</translation>
+    </message>
+    <message id="32935.32941">
+        <source>Misalignment &amp;allowed</source>
+        <extracomment>Choice in the pane of the misaligned mates.</extracomment>
+        <translation>Versatz z&amp;ulässig</translation>
+    </message>
+    <message id="32935.32942">
+        <source>&amp;Maximum misalignment</source>
+        <extracomment>Choice in the pane of the misaligned mates.</extracomment>
+        <translation>&amp;Größter Versatz</translation>
+    </message>
+    <message id="32935.32943">
+        <source>Include &amp;subassemblies</source>
+        <extracomment>Box in the pane of the misaligned mates.</extracomment>
+        <translation>Unterbaugruppen &amp;einschließen</translation>
     </message>
 </context>
 </TS>

@@ -1,10 +1,13 @@
 #include "dialogs/PaneFactory.h"
 
 #include "dialogs/ArrowPanes.h"
+#include "dialogs/AssemblyPanes.h"
 #include "dialogs/DimExtVisibleGapDlg.h"
 #include "dialogs/DimPrecisionDlg.h"
+#include "dialogs/FileLocationDlg.h"
 #include "dialogs/FontPanes.h"
 #include "dialogs/KeepingCheckDlg.h"
+#include "dialogs/PartBendTableDlg.h"
 #include "dialogs/PicturePanes.h"
 #include "dialogs/PlainPanes.h"
 #include "dialogs/StandardCheckDlg.h"
@@ -65,6 +68,12 @@ constexpr PaneClass Classes[] = {
     {"CDrawingDocDimExtVisibleGapDlg", Make<CDrawingDocDimExtVisibleGapDlg>},
     {"CVirtualSharpCheckDlg", Make<CVirtualSharpCheckDlg>},
     {"CDrawingDocDisplayModeDlg", Make<CDrawingDocDisplayModeDlg>},
+    {"CPartBendTableDlg", Make<CPartBendTableDlg>},
+    {"CFileLocationDlg", Make<CFileLocationDlg>},
+    {"CAssemblyInterferenceDlg", Make<CAssemblyInterferenceDlg>},
+    {"CAssemblyMisalignConcentricMatesDlg", Make<CAssemblyMisalignConcentricMatesDlg>},
+    {"CAssemblyFixedPartDlg", Make<CAssemblyFixedPartDlg>},
+    {"CExternalReferenceDlg", Make<CExternalReferenceDlg>},
 };
 
 // The numbers of a pane that keeps the values of its check.
@@ -76,10 +85,8 @@ struct KeepingPane {
 };
 
 constexpr KeepingPane KeepingPanes[] = {
-    {105, 1146, 1723, 1003},   {122, 1403, 1964, 1018}, {127, 1438, 2425, 1020}, {302, 1167, 1605, 1301},
-    {303, 1169, 1582, 1302},   {310, 1166, 1925, 1304}, {501, 1171, 1822, 1401}, {503, 1264, 1740, 1402},
-    {601, 1175, 2017, 1501},   {603, 1173, 1585, 1503}, {604, 1176, 1713, 1504}, {607, 1406, 1753, 1506},
-    {608, 32960, 32939, 1506},
+    {105, 1146, 1723, 1003}, {122, 1403, 1964, 1018}, {302, 1167, 1605, 1301}, {303, 1169, 1582, 1302},
+    {310, 1166, 1925, 1304}, {501, 1171, 1822, 1401}, {601, 1175, 2017, 1501},
 };
 
 } // namespace

@@ -4,14 +4,14 @@
 
 void CParameterCheckDlg::OnParameterChanged() {
     // Without corrections of its own, the scratch check takes those that the standard holds.
-    CCheck scratch(CheckType, 0, 0, 0, 1);
-    FillCheckParameters(scratch);
-    RefreshCorrectionControls(scratch);
+    const auto scratch = CStandard::MakeCheck(CheckType);
+    FillCheckParameters(*scratch);
+    RefreshCorrectionControls(*scratch);
     CommitCheck();
 }
 
 void CParameterCheckDlg::CommitCheck() {
-    auto check = std::make_unique<CCheck>(CheckType, 0, 0, 0, 1);
+    auto check = CStandard::MakeCheck(CheckType);
     FillCheck(*check);
     GetHost().GetStandard().EditCheck(std::move(check));
 }

@@ -97,12 +97,30 @@ void ComparisonPair::Load(const CParameter<double>& parameter) {
     Show(parameter.Operator, parameter.Operator == OpNone ? CString() : ListText(parameter.Values));
 }
 
+void ComparisonPair::Load(const CParameter<int>& parameter) {
+    CStringArray numbers;
+    if (parameter.Operator != OpNone)
+        for (const int value : parameter.Values)
+            numbers.append(FormatInt(value));
+    Show(parameter.Operator, numbers.join(" , "));
+}
+
 void ComparisonPair::Store(CParameter<double>& parameter) const {
     parameter.ClearValues();
     parameter.Operator = Operator();
     for (const CString& token : Values()) {
         double value = 0;
         if (ParseDouble(token, value))
+            parameter.Values.Add(value);
+    }
+}
+
+void ComparisonPair::Store(CParameter<int>& parameter) const {
+    parameter.ClearValues();
+    parameter.Operator = Operator();
+    for (const CString& token : Values()) {
+        int value = 0;
+        if (ParseInt(token, value))
             parameter.Values.Add(value);
     }
 }

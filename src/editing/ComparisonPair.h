@@ -32,9 +32,11 @@ public:
 
     // Shows a parameter and tells nobody: its numbers to six decimals, with commas between them.
     void Load(const CParameter<double>& parameter);
+    void Load(const CParameter<int>& parameter);
 
     // Writes what the boxes show; a part of the text that does not read as a number is left out.
     void Store(CParameter<double>& parameter) const;
+    void Store(CParameter<int>& parameter) const;
 
     // The parameter's name, for those who do not see the boxes.
     void SetName(const CString& name);

@@ -12,6 +12,7 @@
 class CExtDialog;
 class CPDCheckInfo;
 class CPageDialog;
+class CSettingsKey;
 
 using UnitSettingsList = std::vector<std::unique_ptr<CUnitSettings>>;
 
@@ -25,6 +26,8 @@ public:
     virtual CStandard& GetStandard() = 0;
     // The unit-bearing controls of this document's panes, which follow its units.
     virtual UnitSettingsList& GetUnitSettings() = 0;
+    // Where panes remember the folders used last; null where nothing is remembered.
+    virtual CSettingsKey* GetSettings() { return nullptr; }
     // Whether a standard was just read whose checks are not on the page yet; the flag falls with the
     // question.
     virtual bool TakeLoadedFlag() = 0;

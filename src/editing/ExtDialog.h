@@ -132,7 +132,7 @@ private:
 
     void FillCriticalityCombo();
     void WatchClicks(QWidget& window);
-    void OnPress(const QMouseEvent& press);
+    void OnPress(const QMouseEvent& press, bool hasOwnMenu);
     void SelectByKeyboard();
 
     QWidget& m_body; // holds the template's controls, below the caption

@@ -2,24 +2,15 @@
 
 #include "platform/LanguageLibrary.h"
 
-#include <QContextMenuEvent>
 #include <QKeyEvent>
 #include <QMenu>
 #include <QMimeData>
+#include <QSet>
+#include <QSignalBlocker>
 #include <QUrl>
 #include <algorithm>
 
 namespace {
-
-constexpr int NameColumn = 0, PathColumn = 1;
-
-CStringArray LocalFiles(const QMimeData& data) {
-    CStringArray paths;
-    for (const QUrl& url : data.urls())
-        if (url.isLocalFile())
-            paths.append(url.toLocalFile());
-    return paths;
-}
 
 // A path of either kind of separator: one that was stored on another system is shown as it is.
 CString TitleOf(const CString& path) {
@@ -28,25 +19,33 @@ CString TitleOf(const CString& path) {
 
 } // namespace
 
-FileList::FileList(QWidget* parent) : MultiColumnList(parent) {
-    SetColumns({{LoadString(130), 2}, {LoadString(131), 3}});
+FileList::FileList(QWidget* parent) : FileList(parent, {{LoadString(130), 2}, {LoadString(131), 3}}) {}
+
+FileList::FileList(QWidget* parent, const std::vector<CMCColumn>& columns) : MultiColumnList(parent) {
+    SetColumns(columns);
     setSelectionMode(QAbstractItemView::ExtendedSelection);
     setAcceptDrops(true);
     setDragDropMode(QAbstractItemView::DropOnly);
     setDropIndicatorShown(false);
+    setContextMenuPolicy(Qt::CustomContextMenu); // by which a pane sees that the list has its own menu
+    connect(this, &QWidget::customContextMenuRequested, this, &FileList::ShowMenu);
 }
 
 CStringArray FileList::Paths() const {
     CStringArray paths;
     for (int row = 0; row < topLevelItemCount(); ++row)
-        paths.append(topLevelItem(row)->text(PathColumn));
+        paths.append(topLevelItem(row)->text(columnCount() - 1));
     return paths;
 }
 
 void FileList::AddPath(const CString& path) {
-    QTreeWidgetItem* item = AddRow({{{TitleOf(path)}, {path}}});
-    item->setToolTip(NameColumn, path);
-    item->setToolTip(PathColumn, path);
+    CMCRow row;
+    if (columnCount() > 1)
+        row.Cells.push_back({TitleOf(path)});
+    row.Cells.push_back({path});
+    QTreeWidgetItem* item = AddRow(row);
+    for (int column = 0; column < columnCount(); ++column)
+        item->setToolTip(column, path);
 }
 
 void FileList::SetPaths(const CStringArray& paths) {
@@ -55,23 +54,27 @@ void FileList::SetPaths(const CStringArray& paths) {
         AddPath(path);
 }
 
-bool FileList::Holds(const CString& path) const {
-    return Paths().contains(path, Qt::CaseInsensitive);
-}
-
 int FileList::AddPaths(const CStringArray& paths) {
-    int added = 0;
+    QSet<CString> held;
+    for (const CString& path : Paths())
+        held.insert(path.toCaseFolded());
+    int added = 0, passedOver = 0;
     for (const CString& path : paths) {
         if (Accepts && !Accepts(path))
             break;
-        if (Holds(path))
+        if (held.contains(path.toCaseFolded())) {
+            ++passedOver;
             continue;
+        }
+        held.insert(path.toCaseFolded());
         AddPath(path);
         ++added;
     }
     if (added > 0) {
         SelectOnly(topLevelItemCount() - 1);
         Q_EMIT FilesChanged();
+    } else if (passedOver > 0) {
+        Q_EMIT AllHeld();
     }
     return added;
 }
@@ -96,8 +99,11 @@ void FileList::RemoveSelected() {
     const QList<int> rows = SelectedRows();
     if (rows.isEmpty())
         return;
-    for (auto row = rows.crbegin(); row != rows.crend(); ++row)
-        delete takeTopLevelItem(*row);
+    {
+        const QSignalBlocker quiet(this); // a thousand changes of the selection are one for everybody else
+        for (auto row = rows.crbegin(); row != rows.crend(); ++row)
+            delete takeTopLevelItem(*row);
+    }
     SelectOnly(qMin(rows.first(), topLevelItemCount() - 1));
     Q_EMIT FilesChanged();
 }
@@ -124,30 +130,35 @@ void FileList::keyPressEvent(QKeyEvent* event) {
         MultiColumnList::keyPressEvent(event);
 }
 
-void FileList::contextMenuEvent(QContextMenuEvent* event) {
-    if (event->reason() == QContextMenuEvent::Mouse) {
-        QTreeWidgetItem* item = itemAt(viewport()->mapFromGlobal(event->globalPos()));
-        if (item && !item->isSelected())
-            setCurrentItem(item);
-    }
+// The press of the mouse has selected what lies under it.
+void FileList::ShowMenu(const QPoint& place) {
     auto* menu = new QMenu(this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
     menu->addAction(LoadString(2139), this, &FileList::AddWanted);
     menu->addAction(LoadString(2140), this, &FileList::RemoveSelected)
         ->setEnabled(!selectedItems().isEmpty());
-    menu->popup(event->globalPos());
+    menu->popup(viewport()->mapToGlobal(place));
+}
+
+CStringArray FileList::PathsIn(const QMimeData& dragged) const {
+    CStringArray paths;
+    for (const QUrl& url : dragged.urls())
+        if (url.isLocalFile())
+            paths.append(url.toLocalFile());
+    return paths;
 }
 
 void FileList::dragEnterEvent(QDragEnterEvent* event) {
-    event->setAccepted(!LocalFiles(*event->mimeData()).isEmpty());
+    m_takesDrag = !PathsIn(*event->mimeData()).isEmpty();
+    event->setAccepted(m_takesDrag);
 }
 
 void FileList::dragMoveEvent(QDragMoveEvent* event) {
-    event->setAccepted(!LocalFiles(*event->mimeData()).isEmpty());
+    event->setAccepted(m_takesDrag);
 }
 
 void FileList::dropEvent(QDropEvent* event) {
     // The files stay where they are, whatever the file manager proposes.
     event->setDropAction(Qt::CopyAction);
-    event->setAccepted(AddPaths(LocalFiles(*event->mimeData())) > 0);
+    event->setAccepted(AddPaths(PathsIn(*event->mimeData())) > 0);
 }

@@ -15,6 +15,16 @@ bool IsByKeyboard(Qt::FocusReason reason) {
            reason == Qt::ShortcutFocusReason;
 }
 
+// Whether a control, or one that it is part of, opens a menu of its own.
+bool HasOwnMenu(const QObject* control) {
+    for (; control; control = control->parent()) {
+        const auto* widget = qobject_cast<const QWidget*>(control);
+        if (widget && widget->contextMenuPolicy() == Qt::CustomContextMenu)
+            return true;
+    }
+    return false;
+}
+
 bool IsHelpKey(const QEvent* event) {
     const auto* key = static_cast<const QKeyEvent*>(event);
     return key->key() == Qt::Key_F1 && key->modifiers() == Qt::NoModifier;
@@ -33,7 +43,7 @@ void CExtDialog::WatchClicks(QWidget& window) {
 
 bool CExtDialog::eventFilter(QObject* watched, QEvent* event) {
     switch (event->type()) {
-    case QEvent::MouseButtonPress: OnPress(*static_cast<QMouseEvent*>(event)); break;
+    case QEvent::MouseButtonPress: OnPress(*static_cast<QMouseEvent*>(event), HasOwnMenu(watched)); break;
     case QEvent::MouseButtonRelease: m_lastPress.reset(); break;
     case QEvent::FocusIn:
         if (IsByKeyboard(static_cast<QFocusEvent*>(event)->reason()))
@@ -41,7 +51,8 @@ bool CExtDialog::eventFilter(QObject* watched, QEvent* event) {
         break;
     case QEvent::ContextMenu:
         // The page's menu has opened with the press; a field would add one of its own.
-        if (watched != this && static_cast<QContextMenuEvent*>(event)->reason() == QContextMenuEvent::Mouse)
+        if (watched != this && !HasOwnMenu(watched) &&
+            static_cast<QContextMenuEvent*>(event)->reason() == QContextMenuEvent::Mouse)
             return true;
         break;
     case QEvent::ChildAdded:
@@ -53,14 +64,15 @@ bool CExtDialog::eventFilter(QObject* watched, QEvent* event) {
     return QWidget::eventFilter(watched, event);
 }
 
-void CExtDialog::OnPress(const QMouseEvent& press) {
+void CExtDialog::OnPress(const QMouseEvent& press, bool hasOwnMenu) {
     // A press that a control leaves alone comes again from each of its parents.
     if (m_lastPress == press.timestamp())
         return;
     m_lastPress = press.timestamp();
     CPageDialog& page = GetHost().GetChecksPage();
     if (press.button() == Qt::RightButton) {
-        GetHost().ShowContextMenu(press.globalPosition().toPoint());
+        if (!hasOwnMenu)
+            GetHost().ShowContextMenu(press.globalPosition().toPoint());
     } else if (press.button() == Qt::LeftButton && page.GetSelectedPosition() != Position) {
         if (press.modifiers() & Qt::ControlModifier)
             page.ToggleSelection(Position);

@@ -4,6 +4,8 @@
 #include "editing/ChoiceList.h"
 #include "editing/ComboBoxExt.h"
 #include "editing/ExtRichEditCtrl.h"
+#include "editing/FileList.h"
+#include "editing/FolderList.h"
 #include "editing/FontList.h"
 #include "editing/GroupBoxExt.h"
 #include "editing/MyStatic.h"
@@ -24,6 +26,8 @@ bool RegisterAll() {
     Register<CComboBoxExt>("CComboBoxExt");
     Register<CExtRichEditCtrl>("CExtRichEditCtrl");
     Register<CFontList>("CFontList");
+    Register<FileList>("FileList");
+    Register<FolderList>("FolderList");
     Register<CGroupBoxExt>("CGroupBoxExt");
     Register<CFaintLine>("CFaintLine");
     Register<CHeading>("CHeading");

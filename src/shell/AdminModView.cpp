@@ -94,6 +94,10 @@ CStandard& CAdminModView::GetStandard() {
     return m_document.GetStandard();
 }
 
+CSettingsKey* CAdminModView::GetSettings() {
+    return m_app.GetSettings();
+}
+
 UnitSettingsList& CAdminModView::GetUnitSettings() {
     return m_document.GetUnitSettings();
 }

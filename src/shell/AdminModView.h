@@ -49,6 +49,7 @@ public:
     // Of pages and panes.
     CStandard& GetStandard() override;
     UnitSettingsList& GetUnitSettings() override;
+    CSettingsKey* GetSettings() override;
     bool TakeLoadedFlag() override;
     std::unique_ptr<CExtDialog> MakePane(const PageCheckRow& row) override;
     CPageDialog& GetChecksPage() override { return *m_checks; }

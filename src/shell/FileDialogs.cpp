@@ -3,6 +3,7 @@
 #include "platform/FileLock.h"
 #include "platform/LanguageLibrary.h"
 #include "platform/Message.h"
+#include "platform/widgets/NameFilters.h"
 #include "shell/AdminModuleDoc.h"
 
 #include <QFileInfo>
@@ -15,14 +16,7 @@ constexpr char DefaultExtension[] = "kvstd";
 } // namespace
 
 CStringArray FileFilters() {
-    CStringArray filters;
-    const CStringArray parts = LoadString(FilterText).split('|', Qt::SkipEmptyParts);
-    for (qsizetype at = 0; at + 1 < parts.size(); at += 2) {
-        // The name tells its patterns already, and the dialog would show them a second time.
-        const CString name = parts[at].section(" (", 0, 0);
-        filters.append(name + " (" + CString(parts[at + 1]).replace(';', ' ') + ")");
-    }
-    return filters;
+    return NameFiltersOf(LoadString(FilterText));
 }
 
 CString AskFileToOpen(QWidget* owner, const CString& folder) {

@@ -7,8 +7,7 @@
 
 class CAdminModuleDoc;
 
-// The filter text of the language library in the form of this platform's dialogs: pairs of name and patterns,
-// parted by "|".
+// Those of a standard's file, as a file dialog takes them.
 CStringArray FileFilters();
 
 // The file to open, or an empty text where the user cancelled. It is there.

@@ -127,6 +127,7 @@ TEST_F(Files, TheMenuSelectsWhatIsUnderThePointerAndRemovesIt) {
     m_list.SetPaths({"/0", "/1", "/2"});
     Select({0});
     const QPoint point = m_list.visualItemRect(m_list.topLevelItem(2)).center();
+    QTest::mouseClick(m_list.viewport(), Qt::RightButton, {}, point);
     QContextMenuEvent event(QContextMenuEvent::Mouse, point, m_list.viewport()->mapToGlobal(point));
     QApplication::sendEvent(m_list.viewport(), &event);
     EXPECT_EQ(Selected(), QList<int>{2});

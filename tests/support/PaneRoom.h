@@ -14,6 +14,7 @@ public:
 
     CStandard& GetStandard() override { return standard; }
     UnitSettingsList& GetUnitSettings() override { return units; }
+    CSettingsKey* GetSettings() override { return settings; }
     bool TakeLoadedFlag() override { return std::exchange(isLoaded, false); }
     std::unique_ptr<CExtDialog> MakePane(const PageCheckRow& row) override { return ::MakePane(*this, row); }
     CPageDialog& GetChecksPage() override { return *m_page; }
@@ -48,6 +49,7 @@ public:
 
     CStandard standard;
     UnitSettingsList units;
+    CSettingsKey* settings = nullptr;
     bool isLoaded = false;
     std::vector<std::pair<unsigned, unsigned>> helpAsked; // command and topic
     std::vector<QPoint> menusAsked;
