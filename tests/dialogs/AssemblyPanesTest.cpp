@@ -304,7 +304,7 @@ TEST(MatesWords, AreTheSameInEveryLanguage) {
     const Language german("German");
     PaneRoom room;
     room.Show();
-    const PaneHand hand(room.Add(Mates));
+    const CheckHand hand(room.Add(Mates));
     hand.Click(32941);
     EXPECT_EQ(Written(*room.Live(Mates), 32948), "13:Yes");
     EXPECT_EQ(Written(*room.Live(Mates), 32950), "2:No");

@@ -22,9 +22,9 @@
 // Rows of the boxes of operators.
 enum OperatorRow : int { Any, Equal, Below, Above, AtLeast, AtMost, Between, OneOf, NoneOf };
 
-class PaneHand {
+class CheckHand {
 public:
-    explicit PaneHand(ControlHost& pane) : m_pane(pane) {}
+    explicit CheckHand(ControlHost& pane) : m_pane(pane) {}
 
     template <class T = QWidget> T& Get(int number) const { return *m_pane.GetDlgItem<T>(number); }
     QComboBox& Combo(int number) const { return Get<QComboBox>(number); }
@@ -80,7 +80,7 @@ protected:
         room.Add(m_type);
     }
     CExtDialog& Pane() { return *room.Pane(m_type); }
-    PaneHand Hand() { return PaneHand(Pane()); }
+    CheckHand Hand() { return CheckHand(Pane()); }
     CCheck& Live() { return *room.Live(m_type); }
     CString Written(unsigned parameter) { return ::Written(Live(), parameter); }
     // What the pane writes without a change by the user.

@@ -127,7 +127,9 @@ TEST_F(BendTables, RowsAreRemovedByButtonKeyAndMenu) {
 TEST_F(BendTables, TheCorrectionIsATableOfTheList) {
     Hand().Drop(List, {"/t/1.xls", "/t/2.xls", "/t/3.xls"});
     EXPECT_EQ(WrittenCorrection(Live(), Tables), "/t/1.xls");
+    EXPECT_EQ(CorrectionBox().List()->toolTip(), "/t/1.xls");
     Gui::ChooseRow(*CorrectionBox().List(), 1);
+    EXPECT_EQ(CorrectionBox().List()->toolTip(), "/t/2.xls");
     EXPECT_EQ(WrittenCorrection(Live(), Tables), "/t/2.xls");
     Hand().ClickRow(List, 0);
     Hand().Click(Remove);

@@ -241,7 +241,7 @@ TEST(SmallPanesRoundTrip, TheCorrectionIsATableAfterEverySingleChange) {
     PaneRoom room;
     room.Show();
     room.GetChecksPage().resize(1100, 900);
-    const PaneHand hand(room.Add(BendTable));
+    const CheckHand hand(room.Add(BendTable));
     RandomStandard random(42);
     for (int step = 0; step < 200; ++step) {
         FileList& list = hand.List(1272);
@@ -271,10 +271,10 @@ TEST(SmallPanesRoundTrip, TheToolSavesAndShowsAgainWhatWasEntered) {
         tool.Do(Command::ShowAllChecks);
         for (const MQC_CheckType_e type : Types)
             tool.PressCheck(type);
-        PaneHand(*tool.Pane(BendTable)).Drop(1272, {"/t/a.xls", "/t/b.btl"});
-        PaneHand(*tool.Pane(FileLocations)).Drop(1274, {folder.Path("templates")});
-        PaneHand(*tool.Pane(FileLocations)).Click(1330);
-        const PaneHand fixed(*tool.Pane(Fixed)), interferences(*tool.Pane(Interferences)),
+        CheckHand(*tool.Pane(BendTable)).Drop(1272, {"/t/a.xls", "/t/b.btl"});
+        CheckHand(*tool.Pane(FileLocations)).Drop(1274, {folder.Path("templates")});
+        CheckHand(*tool.Pane(FileLocations)).Click(1330);
+        const CheckHand fixed(*tool.Pane(Fixed)), interferences(*tool.Pane(Interferences)),
             mates(*tool.Pane(Mates)), references(*tool.Pane(References));
         fixed.Choose(1080, AtMost);
         fixed.Type(1081, "2");
@@ -291,18 +291,18 @@ TEST(SmallPanesRoundTrip, TheToolSavesAndShowsAgainWhatWasEntered) {
     ASSERT_TRUE(tool.Open(path));
     tool.Do(Command::ShowAllChecks);
     EXPECT_EQ(ContentsOf(tool), entered);
-    EXPECT_EQ(PaneHand(*tool.Pane(BendTable)).List(1272).Paths(), (CStringArray{"/t/a.xls", "/t/b.btl"}));
-    EXPECT_EQ(PaneHand(*tool.Pane(FileLocations)).List(1274).Paths(), CStringArray{folder.Path("templates")});
-    EXPECT_EQ(PaneHand(*tool.Pane(Fixed)).Field(1081).text(), "2");
-    EXPECT_EQ(PaneHand(*tool.Pane(Interferences)).Field(1081).text(), "0.5 , 7");
-    EXPECT_EQ(PaneHand(*tool.Pane(Mates)).Field(1002).text(), "0.125");
-    EXPECT_TRUE(PaneHand(*tool.Pane(References)).IsChecked(1144));
+    EXPECT_EQ(CheckHand(*tool.Pane(BendTable)).List(1272).Paths(), (CStringArray{"/t/a.xls", "/t/b.btl"}));
+    EXPECT_EQ(CheckHand(*tool.Pane(FileLocations)).List(1274).Paths(), CStringArray{folder.Path("templates")});
+    EXPECT_EQ(CheckHand(*tool.Pane(Fixed)).Field(1081).text(), "2");
+    EXPECT_EQ(CheckHand(*tool.Pane(Interferences)).Field(1081).text(), "0.5 , 7");
+    EXPECT_EQ(CheckHand(*tool.Pane(Mates)).Field(1002).text(), "0.125");
+    EXPECT_TRUE(CheckHand(*tool.Pane(References)).IsChecked(1144));
 }
 
 TEST(SmallPanesRoundTrip, AnInterferenceVolumeFollowsTheUnitWithItsCube) {
     GuiTool tool;
     tool.PressCheck(Interferences);
-    const PaneHand hand(*tool.Pane(Interferences));
+    const CheckHand hand(*tool.Pane(Interferences));
     const auto choose = [&tool](unsigned long unit) {
         CString name;
         CEnumEngine().GetDisplayString(KindLengthUnit, unit, name);
