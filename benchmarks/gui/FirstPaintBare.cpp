@@ -1,5 +1,5 @@
-// The least program with a main window: one menu and a status bar. Without a word in it, it would not load the
-// fonts that every program with windows needs.
+// The least program with a main window: one menu and a status bar. Without a word in it, it would not load
+// the fonts that every program with windows needs.
 #include "gui/FirstPaint.h"
 #include "gui/Told.h"
 

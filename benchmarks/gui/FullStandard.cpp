@@ -1,7 +1,6 @@
 #include "gui/FullStandard.h"
 
 #include "files/Packing.h"
-#include "model/Catalogue.h"
 #include "model/Standard.h"
 #include "support/RandomStandard.h"
 
@@ -27,6 +26,14 @@ void AddPropertyRows(CCheckManager& container, int count) {
     }
 }
 
+void RequireManyFonts(CCheck& check) {
+    CParameter<CString*>& names = *check.GetStringParameter(1700);
+    names.ClearValues();
+    for (int i = 0; i < FontCount; ++i)
+        names.Values.Add(new CString(CString("Font %1").arg(i)));
+    names.Operator = OpOneOf;
+}
+
 } // namespace
 
 void WriteFullStandard(const CString& path, int propertyRows) {
@@ -37,6 +44,8 @@ void WriteFullStandard(const CString& path, int propertyRows) {
         auto check = random.Check(row.type);
         if (row.type == CustomProperties && propertyRows > 0)
             AddPropertyRows(dynamic_cast<CCheckManager&>(*check), propertyRows);
+        if (row.type == FontCheck)
+            RequireManyFonts(*check);
         unsigned sequence = 0;
         standard.InsertCheck(std::move(check), sequence);
     }

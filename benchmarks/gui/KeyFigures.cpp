@@ -8,6 +8,7 @@
 #include "support/GuiTool.h"
 
 #include <QAbstractButton>
+#include <QSpinBox>
 #include <QTemporaryDir>
 #include <QtTest>
 #include <array>
@@ -26,11 +27,14 @@ struct KeyTarget {
     MQC_CheckType_e check;
     int control;
     std::array<int, 2> boxes; // what has to be ticked first; 0 for nothing
+    int comparison = 0;       // the box whose first comparison is chosen then; 0 for none
 };
 
 constexpr KeyTarget Targets[] = {
     {"name of the own drafting standard", 101, 1315, {1020, 0}},
     {"correction of the drafting standard", 101, 1304, {1020, 1007}},
+    {"decimal places of the units", 108, 1111, {1130, 0}, 1110},
+    {"text height beside 500 fonts", FontCheck, 1002, {1000, 0}, 1001},
 };
 
 // What has the keyboard in a control.
@@ -47,6 +51,8 @@ QWidget& Prepare(GuiTool& tool, const KeyTarget& target) {
     for (const int number : target.boxes)
         if (auto* box = tool.Control<QAbstractButton>(target.check, number); box && !box->isChecked())
             Gui::Click(*box);
+    if (auto* comparison = tool.Control<QWidget>(target.check, target.comparison))
+        Gui::ChooseRow(*comparison, 1);
     auto* control = tool.Control<QWidget>(target.check, target.control);
     if (!control)
         qFatal("There is no %s.", target.name);
@@ -57,12 +63,15 @@ QWidget& Prepare(GuiTool& tool, const KeyTarget& target) {
     return input;
 }
 
-// Writes a text and takes it back, or goes down in a list and up again.
+// Writes a text and takes it back, or goes down in a list or a number and up again.
 void Press(QWidget& input, int turn) {
     const bool isThere = turn % (2 * LongestText) < LongestText;
     if (const auto* list = qobject_cast<QComboBox*>(&input))
         QTest::sendKeyEvent(QTest::Press, &input, list->currentIndex() > 0 ? Qt::Key_Up : Qt::Key_Down,
                             CString(), Qt::NoModifier);
+    else if (const auto* number = qobject_cast<QSpinBox*>(&input))
+        QTest::sendKeyEvent(QTest::Press, &input, number->value() > 0 ? Qt::Key_Down : Qt::Key_Up, CString(),
+                            Qt::NoModifier);
     else
         QTest::sendKeyEvent(QTest::Press, &input, isThere ? Qt::Key_1 : Qt::Key_Backspace,
                             isThere ? CString("1") : CString(), Qt::NoModifier);

@@ -77,8 +77,8 @@ std::vector<Figure> StartFigures() {
     }
     const Start open = StartOnce({bin + "/first-paint-tool", path.toStdString()});
     std::fprintf(stderr, "start: bare %.0f ms, tool %.0f ms\n", Percentile(bare, 0.5), Percentile(tool, 0.5));
-    return {{"start to first paint / of a window with one menu", Percentile(tool, 0.5) / Percentile(bare, 0.5),
-             MostOfBare},
+    return {{"start to first paint / of a window with one menu",
+             Percentile(tool, 0.5) / Percentile(bare, 0.5), MostOfBare},
             {"memory after the start (MB)", Percentile(memory, 0.5), MostMegabytes},
             {"memory with all 54 panes seen (MB)", open.megabytes, MostMegabytesOpen}};
 }
