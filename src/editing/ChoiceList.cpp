@@ -70,10 +70,26 @@ QSize CChoiceList::sizeHint() const {
     return {LeastWidth, m_visibleRows * RowHeight + room + 2 * (frameWidth() + Margin)};
 }
 
+// Columns only where all rows are whole and in sight; one column can be scrolled.
+int CChoiceList::ColumnsThatFit() const {
+    const QSize room = size() - QSize(2, 2) * (frameWidth() + Margin);
+    const int rows = (count() + m_columns - 1) / m_columns;
+    if (m_columns == 1 || room.height() <= rows * RowHeight)
+        return 1;
+    QStyleOptionViewItem option;
+    initViewItemOption(&option);
+    const QStyledItemDelegate measure;
+    for (int row = 0; row < count(); ++row)
+        if (measure.sizeHint(option, model()->index(row, 0)).width() > room.width() / m_columns)
+            return 1;
+    return m_columns;
+}
+
 void CChoiceList::resizeEvent(QResizeEvent* event) {
     if (m_columns > 1) {
-        setWrapping(true);
-        setGridSize({viewport()->width() / m_columns, RowHeight});
+        const int columns = ColumnsThatFit();
+        setWrapping(columns > 1);
+        setGridSize(columns > 1 ? QSize(viewport()->width() / columns, RowHeight) : QSize());
     }
     QListWidget::resizeEvent(event);
 }

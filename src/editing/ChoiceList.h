@@ -36,6 +36,8 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
+    int ColumnsThatFit() const;
+
     int m_visibleRows = 4;
-    int m_columns = 1; // side by side, filled one after another
+    int m_columns = 1; // side by side, filled one after another, where there is room
 };

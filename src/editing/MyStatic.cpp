@@ -48,6 +48,15 @@ CMyStatic::CMyStatic(QWidget* parent)
     RefreshDisplay();
 }
 
+QSize CMyStatic::sizeHint() const {
+    return QWidget::sizeHint().expandedTo(
+        {0, qMax(m_edit->sizeHint().height(), m_list->sizeHint().height())});
+}
+
+QSize CMyStatic::minimumSizeHint() const {
+    return QWidget::minimumSizeHint().expandedTo({0, sizeHint().height()});
+}
+
 void CMyStatic::SetMode(int mode, int extra) {
     m_mode = mode;
     m_extra = extra;

@@ -28,6 +28,11 @@ public:
     // What the control is called for those who do not see it.
     void SetName(const CString& name);
 
+    // As high as the field and as the list, so that a pane does not grow when one takes the place of the
+    // other.
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
     CExACRichEdit* Edit() const { return m_edit; }
     CComboBoxExt* List() const { return m_list; }
 

@@ -90,6 +90,27 @@ TEST(ValuePanes, ALabelStandsBeforeItsControl) {
             EXPECT_TRUE(!label->text().contains(u'&') || label->buddy()) << label->text().toStdString();
 }
 
+TEST(ValuePanes, EveryRowOfAListIsReachedAndWhole) {
+    for (const char* name : {"English", "German"}) {
+        const Language language(name);
+        for (const int width : {740, 1100}) {
+            PaneRoom room;
+            room.Show();
+            room.GetChecksPage().resize(width, 1500);
+            for (auto* list : room.Add(108).findChildren<CChoiceList*>()) {
+                for (int row = 0; row < list->count(); ++row) {
+                    QListWidgetItem* const item = list->item(row);
+                    list->scrollToItem(item);
+                    const QRect place = list->visualItemRect(item);
+                    EXPECT_TRUE(list->viewport()->rect().contains(place)) << item->text().toStdString();
+                    EXPECT_GT(place.width(), list->fontMetrics().horizontalAdvance(item->text()))
+                        << item->text().toStdString();
+                }
+            }
+        }
+    }
+}
+
 namespace {
 
 // All lengths of the live checks, in a steady order.
