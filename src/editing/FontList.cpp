@@ -1,6 +1,7 @@
 #include "editing/FontList.h"
 
 #include <QFontDatabase>
+#include <QGuiApplication>
 
 namespace {
 
@@ -8,6 +9,27 @@ namespace {
 CString WithoutMaker(const CString& family) {
     const qsizetype maker = family.indexOf(" [");
     return maker > 0 && family.endsWith(u']') ? family.left(maker) : family;
+}
+
+CStringArray NamesOfFamilies() {
+    CStringArray names;
+    for (const CString& family : QFontDatabase::families())
+        // Such as "Serif", which stands for another family.
+        if (const bool isName = QFontDatabase::hasFamily(family);
+            isName && !QFontDatabase::isPrivateFamily(family))
+            names.append(WithoutMaker(family));
+    names.removeDuplicates();
+    return names;
+}
+
+// Asked of the system once: a standard may have a dozen lists of them.
+const CStringArray& InstalledNames() {
+    static CStringArray names;
+    [[maybe_unused]] static const auto change =
+        QObject::connect(qGuiApp, &QGuiApplication::fontDatabaseChanged, [] { names.clear(); });
+    if (names.isEmpty())
+        names = NamesOfFamilies();
+    return names;
 }
 
 } // namespace
@@ -34,12 +56,5 @@ CFontList::CFontList(QWidget* parent) : CChoiceList(parent) {
 
 void CFontList::FillWithInstalled() {
     clear();
-    CStringArray names;
-    for (const CString& family : QFontDatabase::families())
-        // Such as "Serif", which stands for another family.
-        if (const bool isName = QFontDatabase::hasFamily(family);
-            isName && !QFontDatabase::isPrivateFamily(family))
-            names.append(WithoutMaker(family));
-    names.removeDuplicates();
-    addItems(names);
+    addItems(InstalledNames());
 }

@@ -58,14 +58,15 @@ int Revealed(int position, int length, int begin, int end) {
 
 // Tab follows the catalogue, whatever the order in which panes were made.
 void CPageDialog::JoinTabOrder(CExtDialog& pane) {
-    QWidget* before = m_firstTabStop;
+    CExtDialog* earlier = nullptr;
     for (const MQC_CheckType_e type : Infos.Order()) {
         CExtDialog* other = Infos.Find(type)->GetDialog();
         if (other == &pane)
             break;
         if (other && other->HasWindow())
-            before = LastTabStopOf(*other);
+            earlier = other;
     }
+    QWidget* before = earlier ? LastTabStopOf(*earlier) : m_firstTabStop;
     const std::vector<QWidget*> stops = TabStopsOf(pane);
     setTabOrder(before, &pane); // a click on the pane itself gives it the keyboard
     before = &pane;

@@ -18,18 +18,23 @@ PaneColumns::PaneColumns(QWidget& body) : m_rows(qobject_cast<QGridLayout*>(body
         return;
     for (int column = 0; column < m_rows->columnCount(); ++column)
         m_widths.append(m_rows->columnMinimumWidth(column));
-    m_fullWidth = m_rows->sizeHint().width();
     Apply(true);
 }
 
 void PaneColumns::Fit(int width) {
+    // What a column has beyond its least width may make this a little too much, which does no harm.
+    if (m_rows && m_fullWidth == 0)
+        m_fullWidth = m_rows->sizeHint().width() + m_widened;
     if (m_rows && m_isNarrow != (width < m_fullWidth))
         Apply(!m_isNarrow);
 }
 
 void PaneColumns::Apply(bool isNarrow) {
     m_isNarrow = isNarrow;
-    for (int column = 0; column < m_widths.size(); ++column)
-        m_rows->setColumnMinimumWidth(column, isNarrow ? std::min(m_widths[column], NarrowWidths[column])
-                                                       : m_widths[column]);
+    m_widened = 0;
+    for (int column = 0; column < m_widths.size(); ++column) {
+        const int narrow = std::min(m_widths[column], NarrowWidths[column]);
+        m_rows->setColumnMinimumWidth(column, isNarrow ? narrow : m_widths[column]);
+        m_widened += m_widths[column] - narrow;
+    }
 }

@@ -21,6 +21,7 @@ private:
 
     QPointer<QGridLayout> m_rows; // null where there are no columns
     QList<int> m_widths;          // the template's
-    int m_fullWidth = 0;          // of the whole layout with these
+    int m_widened = 0;            // by how much they are wider than the narrow ones, in all
+    int m_fullWidth = 0;          // of the whole layout with these; 0 until it is asked
     bool m_isNarrow = false;
 };

@@ -39,23 +39,19 @@ QWidget* MakeSummary() {
 CAdminModView::CAdminModView(CAdminModuleApp& app, CAdminModuleDoc& document, QWidget* parent,
                              PrintFunction print)
     : QWidget(parent), m_app(app), m_document(document), m_print(std::move(print)),
-      m_sheet(new CCheckPropertySheet(this)), m_checks(new CPageDialog(*this)),
-      m_options(new CRulewardOptions(*this)) {
+      m_sheet(new CCheckPropertySheet(this)), m_checks(new CPageDialog(*this)) {
     if (liveViews++ == 0)
         TellActiveUnit(app);
     m_sheet->AddPage([this] { return m_checks; }, LoadString(PageChecksTab), Qt::Key_F5,
                      [this] { m_checks->TakeUpLoadedChecks(); });
     m_sheet->AddPage(MakeSummary, LoadString(PageSummaryTab), Qt::Key_F6,
                      [this] { GetSummaryPage().OnSetActive(*this); });
-    m_sheet->AddPage([this] { return m_options; }, LoadString(PageOptionsTab), Qt::Key_F7,
+    m_sheet->AddPage([this] { return MakeOptions(); }, LoadString(PageOptionsTab), Qt::Key_F7,
                      [this] {
                          CommitPending();
                          m_options->OnSetActive(LengthUnitText, AngleUnitText);
                      });
     m_sheet->GetPage(ChecksPage);
-    m_sheet->GetPage(OptionsPage);
-    m_options->LengthUnitChosen = [this] { OnLengthUnitChanged(); };
-    m_options->AngleUnitChosen = [this] { OnAngleUnitChanged(); };
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->addWidget(m_sheet);
@@ -74,6 +70,18 @@ void CAdminModView::OnInitialUpdate() {
     m_shownGroup = CurrentGroup();
     ActivatePage(ChecksPage);
     m_checks->setFocus();
+}
+
+CRulewardOptions* CAdminModView::MakeOptions() {
+    m_options = new CRulewardOptions(*this);
+    m_options->LengthUnitChosen = [this] { OnLengthUnitChanged(); };
+    m_options->AngleUnitChosen = [this] { OnAngleUnitChanged(); };
+    m_options->OnSetActive(LengthUnitText, AngleUnitText);
+    return m_options;
+}
+
+CRulewardOptions& CAdminModView::GetOptionsPage() const {
+    return dynamic_cast<CRulewardOptions&>(m_sheet->GetPage(OptionsPage));
 }
 
 CPageSheet& CAdminModView::GetSummaryPage() const {

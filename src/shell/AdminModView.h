@@ -64,7 +64,7 @@ public:
 
     CCheckPropertySheet& GetSheet() const { return *m_sheet; }
     CPageSheet& GetSummaryPage() const;
-    CRulewardOptions& GetOptionsPage() const { return *m_options; }
+    CRulewardOptions& GetOptionsPage() const;
     const CString& GetLengthUnitName() const { return LengthUnitText; }
     const CString& GetAngleUnitName() const { return AngleUnitText; }
 
@@ -76,6 +76,7 @@ private:
     void ShowCheck(MQC_CheckType_e type) override;
 
     bool IsChecksPageActive() const;
+    CRulewardOptions* MakeOptions();
     void OnCheckCommand(unsigned id);
     void OnFontCheckCommand(CPDCheckInfo& info);
     void ToggleCheck(CPDCheckInfo& info, const CCheck* source);
@@ -107,8 +108,8 @@ private:
     PrintFunction m_print;
     CCheckPropertySheet* m_sheet; // owns the pages
     CPageDialog* m_checks;
-    CRulewardOptions* m_options;
-    CString LengthUnitText; // full names of the current units
+    CRulewardOptions* m_options = nullptr; // until it has been seen
+    CString LengthUnitText;                // full names of the current units
     CString AngleUnitText;
     unsigned m_shownGroup = 0; // that the page was last laid out for
 };

@@ -60,15 +60,18 @@ void CAdminModView::TakeUnitsOfStandard() {
         standard.Unit = SettingOf(m_app, LengthUnitSetting);
     if (standard.AngularUnit < 0)
         standard.AngularUnit = SettingOf(m_app, AngleUnitSetting);
-    m_options->LengthUnitIndex = -1;
-    m_options->AngleUnitIndex = -1;
+    if (m_options) {
+        m_options->LengthUnitIndex = -1;
+        m_options->AngleUnitIndex = -1;
+    }
     ShowUnitNames();
 }
 
 void CAdminModView::ShowUnitNames() {
     LengthUnitText = NameOf(LengthUnits, GetStandard().Unit);
     AngleUnitText = NameOf(AngleUnits, GetStandard().AngularUnit);
-    m_options->OnSetActive(LengthUnitText, AngleUnitText);
+    if (m_options)
+        m_options->OnSetActive(LengthUnitText, AngleUnitText);
 }
 
 void CAdminModView::RebuildDisplay() {
