@@ -12,16 +12,21 @@
 #include <QApplication>
 #include <QDir>
 #include <QFile>
+#include <QLineEdit>
+#include <QListWidget>
 #include <QTemporaryDir>
 #include <QTest>
 #include <cstdio>
 
 namespace {
 
-constexpr MQC_CheckType_e DraftingStandard = 101, Spelling = 203, OverlappingDimensions = 406,
+constexpr MQC_CheckType_e DraftingStandard = 101, NoteFont = 109, DimensionArrows = 402, Spelling = 203,
                           OverlappingViews = 307, MateErrors = 602;
 constexpr unsigned DraftingStandards = 1578; // parameter
 constexpr int IsoBox = 1007, DinBox = 1009;
+constexpr int FontList = 1136, HeightComparison = 1001, HeightField = 1002, ClosedArrowBox = 1110;
+constexpr int MillimeterRow = 3, InchRow = 8;
+constexpr int EqualRow = 1;
 constexpr int Low = 0, High = 2, Critical = 3;
 constexpr int LengthCombo = 1280, AddButton = 1008, OkButton = 1;
 
@@ -32,10 +37,11 @@ public:
 
     bool Play() {
         Start();
+        ChooseUnits();
         AddChecks();
         EnterValues();
         UndoAndRedo();
-        ChangeUnits();
+        ConvertUnits();
         Save();
         OpenAgain();
         MergeWithSample();
@@ -53,18 +59,48 @@ private:
         Shoot("start", "A new, empty standard; the catalogue of checks at the left.");
     }
 
+    void ChooseUnits() {
+        ChooseLengthUnit(MillimeterRow);
+        Shoot("units", "The options: the standard is to be in millimeters.");
+        m_tool.ShowPage(ChecksPage);
+    }
+
+    void ChooseLengthUnit(int row) {
+        m_tool.ShowPage(OptionsPage);
+        Gui::ChooseRow(*Gui::FindNumber(m_tool.View(), LengthCombo), row);
+    }
+
     void AddChecks() {
-        for (const MQC_CheckType_e type :
-             {DraftingStandard, Spelling, OverlappingDimensions, OverlappingViews, MateErrors})
+        m_tool.PressCheck(DraftingStandard);
+        AddFont();
+        for (const MQC_CheckType_e type : {DimensionArrows, Spelling, OverlappingViews, MateErrors})
             m_tool.PressCheck(type);
         m_tool.Do(Command::ShowAllChecks);
-        m_steps.Expect(m_tool.Standard().CountLiveChecks() == 5, "five checks of five groups are added");
+        m_steps.Expect(m_tool.Standard().CountLiveChecks() == 6, "six checks of five groups are added");
+        m_tool.Page().ShowCheck(DraftingStandard);
         Shoot("checks-added", "Checks of five groups, each with its pane.");
+    }
+
+    // Fonts are asked for in a dialog, for several checks may have one in common.
+    void AddFont() {
+        const Gui::Answer font([this](QWidget& dialog) {
+            auto& fonts = dynamic_cast<QListWidget&>(*Gui::FindNumber(dialog, FontList));
+            Gui::ClickAt(*fonts.viewport(), fonts.visualItemRect(fonts.item(0)).center());
+            Gui::ChooseRow(*Gui::FindNumber(dialog, HeightComparison), EqualRow);
+            Gui::Focus(*Gui::FindNumber(dialog, HeightField));
+            Gui::Type(*Gui::FindNumber(dialog, HeightField), "3.5");
+            m_steps.Shoot(dialog.grab().toImage(), "font",
+                          "A font check is added: a face, and letters 3.5 mm high.");
+            Gui::Click(*Gui::FindNumber(dialog, OkButton));
+        });
+        m_tool.PressCheck(NoteFont);
+        m_steps.Expect(font.WasAnswered(), "the dialog for font checks comes");
     }
 
     void EnterValues() {
         Gui::Click(*m_tool.Control<QWidget>(DraftingStandard, IsoBox));
         Gui::Click(*m_tool.Control<QWidget>(DraftingStandard, DinBox));
+        Gui::Click(*m_tool.Control<QWidget>(DimensionArrows, ClosedArrowBox));
         m_tool.SetCriticality(DraftingStandard, High);
         m_tool.SetCriticality(Spelling, Low);
         m_tool.SetCriticality(MateErrors, Critical);
@@ -73,7 +109,8 @@ private:
         const CParameter<long>* allowed = check ? check->GetLongParameter(DraftingStandards) : nullptr;
         m_steps.Expect(allowed && allowed->Operator == OpOneOf && allowed->Values.Count == 2,
                        "two drafting standards are allowed");
-        Shoot("values-entered", "ISO and DIN are allowed, and each check has its criticality.");
+        m_tool.Page().ShowCheck(DraftingStandard);
+        Shoot("values-entered", "Standards, letters and arrowheads are entered, each with its correction.");
     }
 
     void UndoAndRedo() {
@@ -84,11 +121,14 @@ private:
         m_steps.Expect(CriticalityOf(MateErrors) == Critical, "the step is done again");
     }
 
-    void ChangeUnits() {
-        m_tool.ShowPage(OptionsPage);
-        Gui::ChooseRow(*Gui::FindNumber(m_tool.View(), LengthCombo), 3);
-        Shoot("units", "The options: the standard's units are changed.");
+    CString Height() { return m_tool.Control<QLineEdit>(NoteFont, HeightField)->text(); }
+
+    void ConvertUnits() {
+        ChooseLengthUnit(InchRow);
         m_tool.ShowPage(ChecksPage);
+        m_steps.Expect(Height() == "0.1377952756", "a height of 3.5 mm is 0.1377952756 in");
+        m_tool.Page().ShowCheck(NoteFont);
+        Shoot("units-converted", "The same standard in inches: every value is converted.");
     }
 
     void Save() {
@@ -113,7 +153,7 @@ private:
         m_steps.Expect(QFile::exists(Out("Merged.kvstd")), "the merge is saved");
         m_steps.Tell("Merged.kvstd", "The merged standard.");
         m_steps.Expect(m_tool.Document().GetUserPath() == Out("Merged.kvstd"), "the merge is opened");
-        m_steps.Expect(m_tool.Standard().CountLiveChecks() > 5, "the merge holds the checks of both");
+        m_steps.Expect(m_tool.Standard().CountLiveChecks() > 6, "the merge holds the checks of both");
         Shoot("merged", "The merge of both, opened as a document of its own.");
     }
 
