@@ -45,8 +45,9 @@ public:
                 yesAndNo.emplace(id, value);
             }
         if (const unsigned op = PointOperators[Below(std::size(PointOperators))]; m_random.Chance(30) && op) {
-            const int size = static_cast<int>(
-                m_random.Chance(60) ? ListedSizes[m_listed++ % std::size(ListedSizes)] : 1 + Below(90));
+            // First those of the list, so that all occur whatever fonts the machine has to draw from.
+            const int size =
+                static_cast<int>(m_listed < std::size(ListedSizes) ? ListedSizes[m_listed++] : 1 + Below(90));
             sizes.insert(static_cast<unsigned>(size));
             Fill(*check->GetIntParameter(Font::PointHeight), op, {size}, Near(op, size));
             return check;
