@@ -4,6 +4,7 @@
 #include "editing/ExACRichEdit.h"
 #include "editing/Pictures.h"
 #include "engines/TextServices.h"
+#include "engines/UnitText.h"
 #include "model/Parameter.h"
 #include "platform/Format.h"
 #include "platform/LanguageLibrary.h"
@@ -14,6 +15,7 @@
 #include <QScopedValueRollback>
 #include <QTimer>
 #include <QVBoxLayout>
+#include <algorithm>
 
 namespace {
 
@@ -103,6 +105,18 @@ void CMyStatic::RefreshDisplay() {
     other->hide(); // first, for a window that has made room for both does not shrink again
     shown->show();
     setFocusProxy(shown);
+}
+
+void CMyStatic::ConvertUnit(unsigned long power, unsigned long dimension, unsigned long oldUnit,
+                            unsigned long newUnit) {
+    if (Choices.EntryStyle != NumberEntry)
+        return;
+    const auto convert = [&](CString& number) {
+        number = ConvertValueText(number, power, dimension, oldUnit, newUnit);
+    };
+    convert(Choices.Text);
+    std::ranges::for_each(Choices.Strings, convert);
+    RefreshDisplay();
 }
 
 void CMyStatic::ShowField(const CString& text) {

@@ -25,6 +25,10 @@ public:
     // Shows the record as it stands, with a default where it has no value.
     void RefreshDisplay();
 
+    // Rewrites the value and the choices in another unit. `power` and the rest as in CUnitSettings.
+    void ConvertUnit(unsigned long power, unsigned long dimension, unsigned long oldUnit,
+                     unsigned long newUnit);
+
     // What the control is called for those who do not see it.
     void SetName(const CString& name);
 

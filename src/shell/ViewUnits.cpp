@@ -1,4 +1,5 @@
 // The units of a standard, and what follows them.
+#include "editing/MyStatic.h"
 #include "editing/PageDialog.h"
 #include "editing/RulewardOptions.h"
 #include "engines/EnumEngine.h"
@@ -138,7 +139,11 @@ void CAdminModView::ConvertControls(unsigned long dimension, int oldUnit, int ne
         {
             // Else each control would write the check while others still show the old unit.
             const QSignalBlocker quiet(value);
-            entry->ApplyUnitChange(static_cast<unsigned long>(oldUnit), static_cast<unsigned long>(newUnit));
+            const auto from = static_cast<unsigned long>(oldUnit), to = static_cast<unsigned long>(newUnit);
+            entry->ApplyUnitChange(from, to);
+            // What is behind the field of a correction has the old unit still.
+            if (auto* correction = value ? qobject_cast<CMyStatic*>(value->parentWidget()) : nullptr)
+                correction->ConvertUnit(entry->Power, dimension, from, to);
         }
         CExtDialog* pane = value && value->text() != before ? PaneOf(*value) : nullptr;
         if (pane && std::ranges::find(changed, pane) == changed.end())

@@ -22,7 +22,7 @@ namespace {
 
 constexpr MQC_CheckType_e DraftingStandard = 101, NoteFont = 109, DimensionArrows = 402, Spelling = 203,
                           OverlappingViews = 307, MateErrors = 602;
-constexpr unsigned DraftingStandards = 1578; // parameter
+constexpr unsigned DraftingStandards = 1578, FontHeight = 1704; // parameters
 constexpr int IsoBox = 1007, DinBox = 1009;
 constexpr int FontList = 1136, HeightComparison = 1001, HeightField = 1002, ClosedArrowBox = 1110;
 constexpr int MillimeterRow = 3, InchRow = 8;
@@ -144,6 +144,11 @@ private:
         m_steps.Expect(m_tool.Open(Out("Tour.kvstd")), "the standard opens again");
         m_steps.Expect(LiveTextOf(m_tool.Standard()) == m_entered,
                        "the standard that was opened again is what was entered");
+        CCheck* font = nullptr;
+        m_tool.Standard().FindLiveByType(NoteFont, font);
+        const CParameter<double>* height = font ? font->GetDoubleParameter(FontHeight) : nullptr;
+        m_steps.Expect(height && height->Values.Count == 1 && height->Correction == height->Values[0],
+                       "the height's correction is converted with it");
         Shoot("opened-again", "Closed and opened again: all is as entered.");
     }
 
