@@ -18,10 +18,10 @@ namespace {
 struct Feed {
     const char* at;
     const char* end;
-    int piece; // bytes that the library is given at a time
-    XmlNames leftOut;
-    int leftOutDepth = 0;             // within an element that is left out
-    std::vector<const xmlChar*> kept; // the attributes of an element that are not
+    int piece;                           // bytes that the library is given at a time
+    int leftOutDepth = 0;                // within an element that is left out
+    std::vector<const xmlChar*> leftOut; // names, as the parser's dictionary keeps them
+    std::vector<const xmlChar*> kept;    // the attributes of an element that are not left out
     xmlParserCtxt* context = nullptr;
     XmlProblem problem;
 };
@@ -66,10 +66,9 @@ void StopAtDoctype(void* context, const xmlChar*, const xmlChar*, const xmlChar*
     xmlStopParser(static_cast<xmlParserCtxt*>(context));
 }
 
+// Every name that the parser passes stands once in its dictionary, so the place tells a name.
 bool IsLeftOut(const Feed& feed, const xmlChar* name) {
-    return std::any_of(feed.leftOut.begin(), feed.leftOut.end(), [name](const char* known) {
-        return std::strcmp(reinterpret_cast<const char*>(name), known) == 0;
-    });
+    return std::find(feed.leftOut.begin(), feed.leftOut.end(), name) != feed.leftOut.end();
 }
 
 // The library passes five pointers for an attribute, the first of them its name.
@@ -120,12 +119,14 @@ struct FreeContext {
     void operator()(xmlParserCtxt* context) const { xmlFreeParserCtxt(context); }
 };
 
-void Prepare(xmlParserCtxt& context, Feed& feed) {
+void Prepare(xmlParserCtxt& context, Feed& feed, XmlNames leftOut) {
     // No entity is ever replaced and nothing is fetched; limits of the library itself stay on.
     xmlCtxtUseOptions(&context, XML_PARSE_NONET | XML_PARSE_COMPACT | XML_PARSE_IGNORE_ENC);
     context.loadsubset |= XML_SKIP_IDS; // a table of xml:id values would cost more than the tree
     context.sax->cdataBlock = AddCdata;
-    if (!feed.leftOut.empty()) {
+    for (const char* name : leftOut)
+        feed.leftOut.push_back(xmlDictLookup(context.dict, reinterpret_cast<const xmlChar*>(name), -1));
+    if (!leftOut.empty()) {
         context.sax->startElementNs = StartElement;
         context.sax->endElementNs = EndElement;
         context.sax->characters = AddText;
@@ -148,12 +149,12 @@ XmlTree ParseXml(const XmlSource& source, XmlProblem& problem, XmlNames leftOut)
     // pieces, documents with long attributes would open or not by chance.
     const int piece = source.hasLongTags ? 400 : 4000;
     const char* begin = source.utf8.constData();
-    Feed feed{begin, begin + source.utf8.size(), piece, leftOut, 0, {}, nullptr, {}};
+    Feed feed{begin, begin + source.utf8.size(), piece, 0, {}, {}, nullptr, {}};
     const std::unique_ptr<xmlParserCtxt, FreeContext> context(
         xmlCreateIOParserCtxt(nullptr, nullptr, ReadPiece, nullptr, &feed, XML_CHAR_ENCODING_UTF8));
     if (!context)
         throw std::bad_alloc();
-    Prepare(*context, feed);
+    Prepare(*context, feed, leftOut);
     xmlParseDocument(context.get());
     XmlTree tree(context->myDoc);
     context->myDoc = nullptr;

@@ -6,7 +6,7 @@
 
 namespace {
 
-constexpr unsigned Rounds = 6;
+constexpr unsigned Seeds = 6;
 
 class AnyValues : public testing::TestWithParam<RandomStandard::Taste> {};
 
@@ -17,7 +17,7 @@ TEST_P(AnyValues, EveryPaneShowsAndCommitsThem) {
     room.Show();
     for (const PageCheckRow& row : PageChecks()) {
         CExtDialog& pane = room.Add(row.type);
-        for (unsigned seed = 1; seed <= Rounds; ++seed) {
+        for (unsigned seed = 1; seed <= Seeds; ++seed) {
             RandomStandard random(seed * 1000 + row.type, GetParam());
             pane.LoadCheck(*random.Check(row.type));
             Gui::Settle();

@@ -13,14 +13,14 @@
 
 namespace {
 
-constexpr unsigned LengthOperators[] = {OpNone,    OpEqual,   OpBelow, OpAbove, OpAtMost,
-                                        OpAtLeast, OpBetween, OpOneOf, OpNoneOf};
+constexpr unsigned ArrowOperators[] = {OpNone,    OpEqual,   OpBelow, OpAbove, OpAtMost,
+                                       OpAtLeast, OpBetween, OpOneOf, OpNoneOf};
 
 // Random checks that a pane can show in full: values in the order of its boxes, numbers of at most six
 // decimals, and a correction for all that is in force.
-class Fillings {
+class ArrowFillings {
 public:
-    explicit Fillings(unsigned seed) : m_random(seed) {}
+    explicit ArrowFillings(unsigned seed) : m_random(seed) {}
 
     std::unique_ptr<CCheck> Check(MQC_CheckType_e type) {
         auto check = std::make_unique<CCheck>(type, 0, 0, 0, Below(4));
@@ -56,7 +56,7 @@ private:
         operators.insert(op);
     }
     void FillSize(CParameter<double>& size) {
-        const unsigned op = LengthOperators[Below(std::size(LengthOperators))];
+        const unsigned op = ArrowOperators[Below(std::size(ArrowOperators))];
         if (op == OpNone)
             return;
         std::vector<double> wanted = {Length()};
@@ -132,7 +132,7 @@ void Act(MQC_CheckType_e type, const ArrowHand& hand, RandomStandard& random) {
 
 TEST(ArrowRoundTrip, ACheckPassesThroughItsPaneUnchanged) {
     PaneRoom room;
-    Fillings fillings(1);
+    ArrowFillings fillings(1);
     for (const MQC_CheckType_e type : Arrow::All) {
         CExtDialog& pane = *room.GetChecksPage().GetPane(type, true);
         for (int round = 0; round < 250; ++round) {
@@ -151,7 +151,7 @@ TEST(ArrowRoundTrip, ACheckPassesThroughItsPaneUnchanged) {
 TEST(ArrowRoundTrip, ACommitWithoutAChangeKeepsEveryValue) {
     for (unsigned seed = 1; seed <= 20; ++seed) {
         PaneRoom room;
-        Fillings fillings(seed);
+        ArrowFillings fillings(seed);
         for (const MQC_CheckType_e type : Arrow::All) {
             unsigned sequence = 0;
             room.standard.InsertCheck(fillings.Check(type), sequence);
@@ -167,7 +167,7 @@ TEST(ArrowRoundTrip, ACommitWithoutAChangeKeepsEveryValue) {
 
 TEST(ArrowRoundTrip, AFileShowsInAFreshPaneAsItWasWritten) {
     PaneRoom first, second;
-    Fillings fillings(2);
+    ArrowFillings fillings(2);
     for (int round = 0; round < 200; ++round) {
         CStandard written, read;
         for (const MQC_CheckType_e type : Arrow::All) {

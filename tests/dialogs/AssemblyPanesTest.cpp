@@ -14,7 +14,6 @@
 
 namespace {
 
-constexpr MQC_CheckType_e Fixed = 603, References = 604, Interferences = 607, Mates = 608;
 constexpr int Comparison = 1080, Value = 1081;
 
 class InterferencePane : public CheckRoom {
@@ -28,7 +27,7 @@ protected:
 
 class FixedPane : public CheckRoom {
 protected:
-    FixedPane() : CheckRoom(Fixed) {}
+    FixedPane() : CheckRoom(FixedParts) {}
 };
 
 class MatesPane : public CheckRoom {
@@ -39,15 +38,8 @@ protected:
 
 class ReferencePane : public CheckRoom {
 protected:
-    ReferencePane() : CheckRoom(References) {}
+    ReferencePane() : CheckRoom(ExternalReferences) {}
 };
-
-CStringArray RowsOf(const QComboBox& combo) {
-    CStringArray rows;
-    for (int i = 0; i < combo.count(); ++i)
-        rows.append(combo.itemText(i));
-    return rows;
-}
 
 } // namespace
 
@@ -58,7 +50,7 @@ TEST(AssemblyPanes, HaveTheirCaptionsPicturesAndHelp) {
     };
     constexpr Expected all[] = {{503, 1264, 1740, 1402},           {127, 1438, 2425, 1020},
                                 {Interferences, 1406, 1753, 1506}, {Mates, 32960, 32939, 1506},
-                                {Fixed, 1173, 1585, 1503},         {References, 1176, 1713, 1504}};
+                                {FixedParts, 1173, 1585, 1503},    {ExternalReferences, 1176, 1713, 1504}};
     PaneRoom room;
     room.Show();
     for (const Expected& expected : all) {
@@ -73,7 +65,7 @@ TEST(AssemblyPanes, HaveTheirCaptionsPicturesAndHelp) {
 TEST(AssemblyPanes, KeysOfTheLabelsDifferInEachLanguage) {
     for (const char* name : {"English", "German"}) {
         const Language language(name);
-        for (const MQC_CheckType_e type : {503, 127, Interferences, Mates, Fixed, References}) {
+        for (const MQC_CheckType_e type : {503, 127, Interferences, Mates, FixedParts, ExternalReferences}) {
             PaneRoom room;
             room.Show();
             const CExtDialog& pane = room.Add(type);
@@ -96,7 +88,7 @@ TEST(AssemblyPanes, KeysOfTheLabelsDifferInEachLanguage) {
 TEST(AssemblyPanes, EveryInputHasAName) {
     PaneRoom room;
     room.Show();
-    for (const MQC_CheckType_e type : {503, 127, Interferences, Mates, Fixed, References}) {
+    for (const MQC_CheckType_e type : {503, 127, Interferences, Mates, FixedParts, ExternalReferences}) {
         for (const QWidget* control : room.Add(type).Controls()) {
             const auto* button = qobject_cast<const QAbstractButton*>(control);
             const bool hasText = button && !button->text().isEmpty();
@@ -108,7 +100,7 @@ TEST(AssemblyPanes, EveryInputHasAName) {
 }
 
 TEST_F(InterferencePane, StartsWithNothingRequired) {
-    EXPECT_EQ(RowsOf(Hand().Combo(Comparison)),
+    EXPECT_EQ(Gui::RowsOf(Hand().Combo(Comparison)),
               (CStringArray{LoadString(1632), "=", "<", ">", ">=", "<=", LoadString(1657), LoadString(1658),
                             LoadString(1659)}));
     EXPECT_EQ(Hand().Combo(Comparison).currentIndex(), 0);
@@ -234,13 +226,13 @@ TEST_F(FixedPane, APointCannotBeTyped) {
 }
 
 TEST_F(FixedPane, ShowsTheNumbersOfACheck) {
-    CCheck check(Fixed, 0, 0, 0, 1);
+    CCheck check(FixedParts, 0, 0, 0, 1);
     SetParameter(check, 1586, OpNoneOf, {"3", "12"});
     Pane().LoadCheck(check);
     EXPECT_EQ(Hand().Combo(Comparison).currentIndex(), NoneOf);
     EXPECT_EQ(Hand().Field(Value).text(), "3 , 12");
     EXPECT_EQ(::Written(*Shown(), 1586), "4:3,12");
-    Pane().LoadCheck(CCheck(Fixed, 0, 0, 0, 1));
+    Pane().LoadCheck(CCheck(FixedParts, 0, 0, 0, 1));
     EXPECT_EQ(Hand().Combo(Comparison).currentIndex(), 0);
     EXPECT_FALSE(Hand().IsEnabled(Value));
 }
@@ -358,14 +350,14 @@ TEST_F(ReferencePane, EachBoxWritesItsState) {
 
 // Dropped: the state 2 and unknown ones.
 TEST_F(ReferencePane, AStateWithoutABoxIsIgnored) {
-    CCheck check(References, 0, 0, 0, 1);
+    CCheck check(ExternalReferences, 0, 0, 0, 1);
     SetParameter(check, 1714, OpOneOf, {"2", "4", "77"});
     Pane().LoadCheck(check);
     for (const int box : {1140, 1141, 1142, 1144})
         EXPECT_FALSE(Hand().IsChecked(box)) << box;
     EXPECT_TRUE(Hand().IsChecked(1143));
     EXPECT_EQ(::Written(*Shown(), 1714), "2:4");
-    Pane().LoadCheck(CCheck(References, 0, 0, 0, 1));
+    Pane().LoadCheck(CCheck(ExternalReferences, 0, 0, 0, 1));
     EXPECT_FALSE(Hand().IsChecked(1143));
 }
 
@@ -378,7 +370,7 @@ TEST_F(ReferencePane, TheCriticalityIsWrittenWithTheRest) {
 
 TEST_F(ReferencePane, LoadingWritesNothing) {
     const int before = room.standard.GetHistoryIndex();
-    CCheck check(References, 0, 0, 0, 1);
+    CCheck check(ExternalReferences, 0, 0, 0, 1);
     SetParameter(check, 1714, OpOneOf, {"4"});
     Pane().LoadCheck(check);
     Gui::Settle();

@@ -19,6 +19,9 @@
 #include <QMimeData>
 #include <QUrl>
 
+constexpr MQC_CheckType_e BendTable = 503, FileLocations = 127, FixedParts = 603, ExternalReferences = 604,
+                          Interferences = 607, Mates = 608;
+
 // Rows of the boxes of operators.
 enum OperatorRow : int { Any, Equal, Below, Above, AtLeast, AtMost, Between, OneOf, NoneOf };
 

@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr int Ok = 1, Box = 1316, Text = 1317;
+constexpr int OkButton = 1, Box = 1316, Text = 1317;
 
 // Shows the message and answers it.
 bool Ask(bool showsBox, const std::function<void(CRWDontAskMeAgainMsgBoxDlg&)>& act) {
@@ -27,7 +27,7 @@ void Tick(CRWDontAskMeAgainMsgBoxDlg& dialog) {
 }
 
 void PressOk(CRWDontAskMeAgainMsgBoxDlg& dialog) {
-    Gui::Click(*dialog.GetDlgItem(Ok));
+    Gui::Click(*dialog.GetDlgItem(OkButton));
 }
 
 } // namespace

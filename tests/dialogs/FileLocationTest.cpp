@@ -15,7 +15,7 @@
 
 namespace {
 
-constexpr MQC_CheckType_e FileLocations = 127, FileLocation = 124;
+constexpr MQC_CheckType_e FileLocation = 124;
 constexpr int TypeCount = 36;
 
 class Locations : public CheckRoom {

@@ -19,13 +19,6 @@ protected:
     OverridingFontPane() : FontRoom(Font::Dimensions) {}
 };
 
-CStringArray RowsOf(const QComboBox& combo) {
-    CStringArray rows;
-    for (int i = 0; i < combo.count(); ++i)
-        rows.append(combo.itemText(i));
-    return rows;
-}
-
 constexpr int OwnControls[] = {1001, 1002, 1003, 1004, 1006, 1007, 1008, 1136, 1137, 1138};
 
 } // namespace
@@ -62,13 +55,13 @@ TEST(FontChecks, AnUnknownTypeLooksLikeTheFirst) {
 TEST_F(FontPane, OffersTheToldRows) {
     const CStringArray points = {LoadString(1632), "=", "<", ">", "<=", ">="};
     const CStringArray lengths = points + CStringArray{LoadString(1657), LoadString(1658), LoadString(1659)};
-    EXPECT_EQ(RowsOf(Hand().Combo(Font::HeightCombo)), lengths);
-    EXPECT_EQ(RowsOf(Hand().Combo(Font::SpacingCombo)), lengths);
-    EXPECT_EQ(RowsOf(Hand().Combo(Font::PointsCombo)), points);
-    EXPECT_EQ(RowsOf(Hand().Combo(Font::PointSizes)),
+    EXPECT_EQ(Gui::RowsOf(Hand().Combo(Font::HeightCombo)), lengths);
+    EXPECT_EQ(Gui::RowsOf(Hand().Combo(Font::SpacingCombo)), lengths);
+    EXPECT_EQ(Gui::RowsOf(Hand().Combo(Font::PointsCombo)), points);
+    EXPECT_EQ(Gui::RowsOf(Hand().Combo(Font::PointSizes)),
               CString("8,9,10,11,12,14,16,18,20,22,24,26,28,36,48,72").split(u','));
     for (const int box : {Font::StrikeoutBox, Font::UnderlineBox})
-        EXPECT_EQ(RowsOf(Hand().Combo(box)),
+        EXPECT_EQ(Gui::RowsOf(Hand().Combo(box)),
                   (CStringArray{LoadString(1632), LoadString(1660), LoadString(1661)}));
     const auto& styles = Hand().Get<CChoiceList>(Font::Styles);
     ASSERT_EQ(styles.count(), 4);

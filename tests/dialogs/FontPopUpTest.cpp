@@ -38,7 +38,7 @@ protected:
     std::unique_ptr<CDocFontCheckPopUpDlg> m_dialog;
 };
 
-using Types = std::vector<MQC_CheckType_e>;
+using TypeList = std::vector<MQC_CheckType_e>;
 
 } // namespace
 
@@ -75,7 +75,7 @@ TEST_F(FontPopUp, OkAddsEachTickedCheckWithTheSameValues) {
     Hand().Choose(1249, 3);
     Hand().Click(Ok);
     EXPECT_FALSE(m_dialog->isVisible());
-    EXPECT_EQ(LiveTypes(), (Types{109, 111, 117}));
+    EXPECT_EQ(LiveTypes(), (TypeList{109, 111, 117}));
     for (const MQC_CheckType_e type : {109, 111, 117}) {
         const CCheck& live = *room.Live(type);
         EXPECT_EQ(Font::Written(live, Font::Style), "2:3") << type;
@@ -91,16 +91,16 @@ TEST_F(FontPopUp, ApplyAddsAndStays) {
     Open(109);
     Hand().Click(Apply);
     EXPECT_TRUE(m_dialog->isVisible());
-    EXPECT_EQ(LiveTypes(), Types{109});
+    EXPECT_EQ(LiveTypes(), TypeList{109});
     EXPECT_FALSE(Button(1242).isEnabled());
     EXPECT_FALSE(Button(1242).isChecked());
     EXPECT_FALSE(Button(Apply).isEnabled());
     Hand().Click(1515);
     EXPECT_TRUE(Button(Apply).isEnabled());
     Hand().Click(Apply);
-    EXPECT_EQ(LiveTypes(), (Types{109, 110}));
+    EXPECT_EQ(LiveTypes(), (TypeList{109, 110}));
     Hand().Click(Ok);
-    EXPECT_EQ(LiveTypes(), (Types{109, 110}));
+    EXPECT_EQ(LiveTypes(), (TypeList{109, 110}));
 }
 
 TEST_F(FontPopUp, CancelAddsNothing) {
@@ -127,7 +127,7 @@ TEST_F(FontPopUp, AHeldCheckIsTickedAndGreyAndNotAddedAgain) {
     EXPECT_TRUE(Button(1527).isChecked());
     EXPECT_FALSE(Button(1527).isEnabled());
     Hand().Click(Ok);
-    EXPECT_EQ(LiveTypes(), (Types{109, 113}));
+    EXPECT_EQ(LiveTypes(), (TypeList{109, 113}));
     EXPECT_EQ(Font::Written(*room.Live(113), Font::Underline), "3:1");
 }
 
@@ -140,7 +140,7 @@ TEST_F(FontPopUp, ADeletedCheckOffersItsValuesAndTakesTheNewOnes) {
     EXPECT_EQ(Hand().Combo(1249).currentIndex(), 2);
     Hand().Enter(Font::HeightCombo, Font::Equal, "5");
     Hand().Click(Ok);
-    EXPECT_EQ(LiveTypes(), Types{110});
+    EXPECT_EQ(LiveTypes(), TypeList{110});
     EXPECT_EQ(Font::Written(*room.Live(110), Font::Height), "3:5");
     EXPECT_EQ(AllOf(room.standard).size(), 1u);
 }
@@ -187,7 +187,7 @@ TEST_F(FontPopUp, ReturnAddsAndEscapeDoesNot) {
     EXPECT_TRUE(LiveTypes().empty());
     Open(109);
     Gui::Key(Hand().Get(Font::Styles), Qt::Key_Return);
-    EXPECT_EQ(LiveTypes(), Types{109});
+    EXPECT_EQ(LiveTypes(), TypeList{109});
 }
 
 TEST_F(FontPopUp, EveryInputHasANameOfItsOwn) {

@@ -26,9 +26,9 @@ const CStringArray MissingNames = {"Missing A", QString::fromUtf8("Größe & <Co
 
 // Random checks that a pane can show in full: values in the order of its rows, numbers of at most six
 // decimals, and a correction for all that is in force.
-class Fillings {
+class FontFillings {
 public:
-    explicit Fillings(unsigned seed) : m_random(seed) {}
+    explicit FontFillings(unsigned seed) : m_random(seed) {}
 
     std::unique_ptr<CCheck> Check(MQC_CheckType_e type) {
         auto check = std::make_unique<CCheck>(type, 0, 0, 0, Below(4));
@@ -162,7 +162,7 @@ std::unique_ptr<CExtDialog> FreshPane(PaneRoom& room, QWidget& parent, MQC_Check
     return pane;
 }
 
-void FillStandard(CStandard& standard, Fillings& fillings) {
+void FillStandard(CStandard& standard, FontFillings& fillings) {
     for (const MQC_CheckType_e type : FontTypes) {
         unsigned sequence = 0;
         standard.InsertCheck(fillings.Check(type), sequence);
@@ -176,7 +176,7 @@ TEST(FontRoundTrip, ACheckPassesThroughItsPaneUnchanged) {
     for (const MQC_CheckType_e type : FontTypes)
         ShowMissingNames(*room.GetChecksPage().GetPane(type, true), type);
     for (unsigned kind = 0; kind < 3; ++kind) {
-        Fillings fillings(20 + kind);
+        FontFillings fillings(20 + kind);
         for (unsigned round = 0; round < Rounds; ++round) {
             const MQC_CheckType_e type = TypeOf(kind, round);
             CExtDialog& pane = *room.Pane(type);
@@ -200,7 +200,7 @@ TEST(FontRoundTrip, ACheckPassesThroughItsPaneUnchanged) {
 
 TEST(FontRoundTrip, ACommitWithoutAChangeKeepsEveryValue) {
     PaneRoom room;
-    Fillings fillings(21);
+    FontFillings fillings(21);
     FillStandard(room.standard, fillings);
     room.Show();
     room.TakeUp();
@@ -214,7 +214,7 @@ TEST(FontRoundTrip, AFileShowsInAFreshPaneAsItWasWritten) {
     PaneRoom room;
     QWidget parent;
     for (unsigned kind = 0; kind < 3; ++kind) {
-        Fillings fillings(40 + kind);
+        FontFillings fillings(40 + kind);
         std::unique_ptr<CExtDialog> pane, fresh;
         for (unsigned round = 0; round < Rounds; ++round) {
             const MQC_CheckType_e type = TypeOf(kind, round / PaneLife);
@@ -242,7 +242,7 @@ TEST(FontRoundTrip, AFileShowsInAFreshPaneAsItWasWritten) {
 
 TEST(FontRoundTrip, APageTakenUpFromAFileShowsEveryCheck) {
     PaneRoom first, second;
-    Fillings fillings(60);
+    FontFillings fillings(60);
     FillStandard(first.standard, fillings);
     ReadText(TextOf(first.standard), second.standard);
     second.Show();

@@ -11,7 +11,6 @@
 
 namespace {
 
-constexpr MQC_CheckType_e BendTable = 503;
 constexpr unsigned Tables = 1741;
 
 class BendTables : public CheckRoom {

@@ -18,7 +18,7 @@ constexpr std::pair<int, unsigned> Precisions[] = {{1257, 2281}, {1256, 2282}, {
                                                    {1260, 2284}, {1273, 2404}, {1272, 2405}};
 constexpr std::pair<int, unsigned> Fields[] = {{1328, 2307}, {1329, 2308}, {1331, 2309}, {1332, 2310}};
 
-enum : int { Distance = 1285, Extension = 1083, UseDocument = 1288 };
+enum : int { Distance = 1285, Extension = 1083, UseDocumentGap = 1288 };
 
 } // namespace
 
@@ -196,14 +196,14 @@ TEST_F(Gaps, ALengthOutOfBoundsIsRefused) {
 
 TEST_F(Gaps, TheSettingOfTheDocumentTakesTheFieldsOut) {
     Hand().Enter(Distance, "1.5");
-    Hand().Click(UseDocument);
+    Hand().Click(UseDocumentGap);
     EXPECT_EQ(Written(1690), "3:1");
     EXPECT_EQ(Written(2293), "0:");
     EXPECT_EQ(Written(2294), "0:");
     EXPECT_EQ(Correction(1690), "1");
     EXPECT_FALSE(Hand().IsEnabled(Distance));
     EXPECT_FALSE(Hand().IsEnabled(Extension));
-    Gui::Key(Hand().Get(UseDocument), Qt::Key_Space);
+    Gui::Key(Hand().Get(UseDocumentGap), Qt::Key_Space);
     EXPECT_EQ(Written(2293), "3:1.5");
     EXPECT_TRUE(Hand().IsEnabled(Distance));
 }

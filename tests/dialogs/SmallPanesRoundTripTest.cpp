@@ -21,16 +21,15 @@
 
 namespace {
 
-constexpr MQC_CheckType_e BendTable = 503, FileLocations = 127, Fixed = 603, References = 604,
-                          Interferences = 607, Mates = 608;
-constexpr MQC_CheckType_e Types[] = {BendTable, FileLocations, Fixed, References, Interferences, Mates};
+constexpr MQC_CheckType_e SmallTypes[] = {BendTable,          FileLocations, FixedParts,
+                                          ExternalReferences, Interferences, Mates};
 constexpr OperatorCode Operators[] = {OpNone,   OpEqual,   OpBelow, OpAbove, OpAtLeast,
                                       OpAtMost, OpBetween, OpOneOf, OpNoneOf};
 
 // Random checks that a pane can show in full.
-class Fillings {
+class SmallFillings {
 public:
-    explicit Fillings(unsigned seed) : m_random(seed) {}
+    explicit SmallFillings(unsigned seed) : m_random(seed) {}
 
     std::unique_ptr<CCheck> Check(MQC_CheckType_e type) {
         auto check = CStandard::MakeCheck(type);
@@ -38,8 +37,8 @@ public:
         switch (type) {
         case BendTable: FillTables(*check); break;
         case FileLocations: FillLocations(dynamic_cast<CCheckManager&>(*check)); break;
-        case Fixed: FillPair(*check, 1586, false); break;
-        case References: FillBoxes(*check, 1714, {0, 5, 3, 1, 4}); break;
+        case FixedParts: FillPair(*check, 1586, false); break;
+        case ExternalReferences: FillBoxes(*check, 1714, {0, 5, 3, 1, 4}); break;
         case Interferences:
             FillPair(*check, 1754, true);
             FillBoxes(*check, 1758, {0, 1, 2});
@@ -145,8 +144,8 @@ private:
     RandomStandard m_random;
 };
 
-void FillStandard(CStandard& standard, Fillings& fillings) {
-    for (const MQC_CheckType_e type : Types) {
+void FillStandard(CStandard& standard, SmallFillings& fillings) {
+    for (const MQC_CheckType_e type : SmallTypes) {
         unsigned sequence = 0;
         standard.InsertCheck(fillings.Check(type), sequence);
     }
@@ -162,7 +161,7 @@ std::string ContentOf(CCheck& check) {
 // What all panes of the tool write.
 std::string ContentsOf(GuiTool& tool) {
     std::string contents;
-    for (const MQC_CheckType_e type : Types) {
+    for (const MQC_CheckType_e type : SmallTypes) {
         const auto check = CStandard::MakeCheck(type);
         tool.Pane(type)->FillCheck(*check);
         contents += TextOfCheck(*check) + '\n';
@@ -174,8 +173,8 @@ std::string ContentsOf(GuiTool& tool) {
 
 TEST(SmallPanesRoundTrip, ACheckPassesThroughItsPaneUnchanged) {
     PaneRoom room;
-    Fillings fillings(40);
-    for (const MQC_CheckType_e type : Types) {
+    SmallFillings fillings(40);
+    for (const MQC_CheckType_e type : SmallTypes) {
         CExtDialog& pane = *room.GetChecksPage().GetPane(type, true);
         for (int round = 0; round < 200; ++round) {
             const auto check = fillings.Check(type);
@@ -206,10 +205,10 @@ TEST(SmallPanesRoundTrip, AFileShowsInAnotherPaneAsItWasWritten) {
         return shown;
     };
     for (unsigned seed = 1; seed <= 200; ++seed) {
-        Fillings fillings(seed);
+        SmallFillings fillings(seed);
         CStandard saved, opened;
         std::map<MQC_CheckType_e, std::string> before;
-        for (const MQC_CheckType_e type : Types) {
+        for (const MQC_CheckType_e type : SmallTypes) {
             auto check = written(first, *fillings.Check(type));
             before[type] = TextOfCheck(*check);
             unsigned sequence = 0;
@@ -224,14 +223,14 @@ TEST(SmallPanesRoundTrip, AFileShowsInAnotherPaneAsItWasWritten) {
 
 TEST(SmallPanesRoundTrip, ACommitWithoutAChangeKeepsEveryValue) {
     PaneRoom room;
-    Fillings fillings(41);
+    SmallFillings fillings(41);
     FillStandard(room.standard, fillings);
     room.Show();
     room.TakeUp();
     std::map<MQC_CheckType_e, std::string> before;
-    for (const MQC_CheckType_e type : Types)
+    for (const MQC_CheckType_e type : SmallTypes)
         before[type] = ContentOf(*room.Live(type));
-    for (const MQC_CheckType_e type : Types) {
+    for (const MQC_CheckType_e type : SmallTypes) {
         room.Pane(type)->OnParameterChanged();
         EXPECT_EQ(ContentOf(*room.Live(type)), before[type]) << type;
     }
@@ -269,13 +268,13 @@ TEST(SmallPanesRoundTrip, TheToolSavesAndShowsAgainWhatWasEntered) {
     {
         GuiTool tool;
         tool.Do(Command::ShowAllChecks);
-        for (const MQC_CheckType_e type : Types)
+        for (const MQC_CheckType_e type : SmallTypes)
             tool.PressCheck(type);
         CheckHand(*tool.Pane(BendTable)).Drop(1272, {"/t/a.xls", "/t/b.btl"});
         CheckHand(*tool.Pane(FileLocations)).Drop(1274, {folder.Path("templates")});
         CheckHand(*tool.Pane(FileLocations)).Click(1330);
-        const CheckHand fixed(*tool.Pane(Fixed)), interferences(*tool.Pane(Interferences)),
-            mates(*tool.Pane(Mates)), references(*tool.Pane(References));
+        const CheckHand fixed(*tool.Pane(FixedParts)), interferences(*tool.Pane(Interferences)),
+            mates(*tool.Pane(Mates)), references(*tool.Pane(ExternalReferences));
         fixed.Choose(1080, AtMost);
         fixed.Type(1081, "2");
         interferences.Choose(1080, Between);
@@ -292,11 +291,12 @@ TEST(SmallPanesRoundTrip, TheToolSavesAndShowsAgainWhatWasEntered) {
     tool.Do(Command::ShowAllChecks);
     EXPECT_EQ(ContentsOf(tool), entered);
     EXPECT_EQ(CheckHand(*tool.Pane(BendTable)).List(1272).Paths(), (CStringArray{"/t/a.xls", "/t/b.btl"}));
-    EXPECT_EQ(CheckHand(*tool.Pane(FileLocations)).List(1274).Paths(), CStringArray{folder.Path("templates")});
-    EXPECT_EQ(CheckHand(*tool.Pane(Fixed)).Field(1081).text(), "2");
+    EXPECT_EQ(CheckHand(*tool.Pane(FileLocations)).List(1274).Paths(),
+              CStringArray{folder.Path("templates")});
+    EXPECT_EQ(CheckHand(*tool.Pane(FixedParts)).Field(1081).text(), "2");
     EXPECT_EQ(CheckHand(*tool.Pane(Interferences)).Field(1081).text(), "0.5 , 7");
     EXPECT_EQ(CheckHand(*tool.Pane(Mates)).Field(1002).text(), "0.125");
-    EXPECT_TRUE(CheckHand(*tool.Pane(References)).IsChecked(1144));
+    EXPECT_TRUE(CheckHand(*tool.Pane(ExternalReferences)).IsChecked(1144));
 }
 
 TEST(SmallPanesRoundTrip, AnInterferenceVolumeFollowsTheUnitWithItsCube) {

@@ -13,7 +13,7 @@
 
 namespace {
 
-constexpr int Ansi = 1005, Iso = 1007, Din = 1009, Custom = 1020;
+constexpr int Ansi = 1005, Iso = 1007, Din = 1009, CustomBox = 1020;
 
 class StandardCheck : public testing::Test {
 protected:
@@ -100,7 +100,7 @@ TEST_F(StandardCheck, ACorrectionCanBeChosen) {
 }
 
 TEST_F(StandardCheck, ACustomStandardWithoutANameIsWrittenAllTheSame) {
-    Click(Custom);
+    Click(CustomBox);
     EXPECT_EQ(Values(), List{8});
     EXPECT_EQ(NameParameter().Operator, OpNone);
     EXPECT_EQ(NameParameter().Values.Count, 0);
@@ -110,7 +110,7 @@ TEST_F(StandardCheck, ACustomStandardWithoutANameIsWrittenAllTheSame) {
 
 TEST_F(StandardCheck, TheNameOfTheCustomStandardIsTrimmedAndShownAsAChoice) {
     Click(Iso);
-    Click(Custom);
+    Click(CustomBox);
     Gui::Type(Name(), " Acme 7 ");
     EXPECT_EQ(NameParameter().Operator, OpEqual);
     ASSERT_EQ(NameParameter().Values.Count, 1);
@@ -122,23 +122,23 @@ TEST_F(StandardCheck, TheNameOfTheCustomStandardIsTrimmedAndShownAsAChoice) {
 }
 
 TEST_F(StandardCheck, ALongNameShowsOnlyItsBeginningInTheTooltip) {
-    Click(Custom);
+    Click(CustomBox);
     Gui::Type(Name(), CString(100, u'x'));
     EXPECT_EQ(Name().toolTip(), CString(80, u'x'));
     EXPECT_EQ(NameParameter().Values[0]->size(), 100);
 }
 
 TEST_F(StandardCheck, UntickingTheCustomStandardLocksItsName) {
-    Click(Custom);
+    Click(CustomBox);
     Gui::Type(Name(), "Acme");
-    Click(Custom);
+    Click(CustomBox);
     EXPECT_FALSE(Name().isEnabled());
     EXPECT_EQ(Name().text(), "Acme");
     EXPECT_EQ(NameParameter().Values.Count, 0);
 }
 
 TEST_F(StandardCheck, AnyCharacterMayStandInTheName) {
-    Click(Custom);
+    Click(CustomBox);
     Gui::Type(Name(), QStringLiteral("Größe-1/ä ß"));
     EXPECT_EQ(*NameParameter().Values[0], QStringLiteral("Größe-1/ä ß"));
 }
@@ -155,7 +155,7 @@ TEST_F(StandardCheck, LoadingShowsAllOfACheck) {
     name->Operator = OpEqual;
     name->Values.Add(new CString("Acme"));
     Pane().LoadCheck(check);
-    EXPECT_TRUE(Box(Din).isChecked() && Box(Custom).isChecked());
+    EXPECT_TRUE(Box(Din).isChecked() && Box(CustomBox).isChecked());
     EXPECT_FALSE(Box(Iso).isChecked() || Box(Ansi).isChecked());
     EXPECT_EQ(Name().text(), "Acme");
     EXPECT_EQ(Pane().Criticality, 2u);
@@ -172,7 +172,7 @@ TEST_F(StandardCheck, LoadingAnEmptyCheckClearsTheBoxes) {
 }
 
 TEST_F(StandardCheck, ACheckWithoutANameDoesNotKeepTheOneThatStoodThere) {
-    Click(Custom);
+    Click(CustomBox);
     const auto unnamed = CStandard::CloneCheck(*room.Live(101));
     Gui::Type(Name(), "Acme");
     Pane().LoadCheck(*unnamed);
@@ -198,7 +198,7 @@ TEST_F(StandardCheck, TheCriticalityIsWrittenWithTheValues) {
 
 TEST_F(StandardCheck, WhatIsShownIsWhatIsSaved) {
     Click(Iso);
-    Click(Custom);
+    Click(CustomBox);
     Gui::Type(Name(), "Acme");
     CStandard reopened;
     ReadText(TextOf(room.standard), reopened);
@@ -217,7 +217,7 @@ TEST_F(StandardCheck, WithoutALiveCheckNothingIsWritten) {
 }
 
 TEST_F(StandardCheck, TabGoesThroughTheBoxesInTheOrderOfReading) {
-    Click(Custom);
+    Click(CustomBox);
     Gui::Focus(Box(Iso));
     std::vector<CString> order;
     for (int step = 0; step < 10; ++step) {

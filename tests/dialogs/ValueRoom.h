@@ -98,13 +98,7 @@ template <class T> void Require(CParameter<T>* parameter, unsigned op, const std
         parameter->Values.Add(value);
 }
 
-inline CStringArray RowsOf(const QComboBox& combo) {
-    CStringArray rows;
-    for (int i = 0; i < combo.count(); ++i)
-        rows.append(combo.itemText(i));
-    return rows;
-}
-
+using Gui::RowsOf;
 inline CStringArray RowsOf(const QListWidget& list) {
     CStringArray rows;
     for (int i = 0; i < list.count(); ++i)

@@ -22,9 +22,9 @@ protected:
     }
 };
 
-class CellEditors : public testing::Test {
+class CellEditorKeys : public testing::Test {
 protected:
-    CellEditors() : m_edit("0123456789", false, &m_grid), m_combo(&m_grid) {
+    CellEditorKeys() : m_edit("0123456789", false, &m_grid), m_combo(&m_grid) {
         m_combo.addItems({"alpha", "beta", "cube", "vast"});
         m_combo.move(0, 40);
         m_edit.setText("42");
@@ -52,7 +52,7 @@ constexpr Qt::Key Letters[] = {Qt::Key_A, Qt::Key_C, Qt::Key_V, Qt::Key_X, Qt::K
 
 } // namespace
 
-TEST_F(CellEditors, CaretKeysStayInTheEditors) {
+TEST_F(CellEditorKeys, CaretKeysStayInTheEditors) {
     for (const Qt::Key key : CaretKeys) {
         EXPECT_EQ(Reaching(m_edit, key), 0) << key;
         EXPECT_EQ(Reaching(m_combo, key), 0) << key;
@@ -61,7 +61,7 @@ TEST_F(CellEditors, CaretKeysStayInTheEditors) {
     EXPECT_EQ(Reaching(m_edit, Qt::Key_F2), 1);
 }
 
-TEST_F(CellEditors, CaretKeysMoveTheCaret) {
+TEST_F(CellEditorKeys, CaretKeysMoveTheCaret) {
     m_edit.setCursorPosition(0);
     Reaching(m_edit, Qt::Key_Right);
     EXPECT_EQ(m_edit.cursorPosition(), 1);
@@ -71,12 +71,12 @@ TEST_F(CellEditors, CaretKeysMoveTheCaret) {
     EXPECT_EQ(m_edit.cursorPosition(), 0);
 }
 
-TEST_F(CellEditors, ClipboardKeysStayInTheTextEditor) {
+TEST_F(CellEditorKeys, ClipboardKeysStayInTheTextEditor) {
     for (const Qt::Key key : Letters)
         EXPECT_EQ(Reaching(m_edit, key, Qt::ControlModifier), 0) << key;
 }
 
-TEST_F(CellEditors, TheTextEditorClaimsItsKeysFromTheMenus) {
+TEST_F(CellEditorKeys, TheTextEditorClaimsItsKeysFromTheMenus) {
     for (const Qt::Key key : Letters) {
         QKeyEvent claim(QEvent::ShortcutOverride, key, Qt::ControlModifier);
         claim.ignore();
@@ -89,7 +89,7 @@ TEST_F(CellEditors, TheTextEditorClaimsItsKeysFromTheMenus) {
     }
 }
 
-TEST_F(CellEditors, LettersAreTypedWhereTheFilterTakesThem) {
+TEST_F(CellEditorKeys, LettersAreTypedWhereTheFilterTakesThem) {
     EXPECT_EQ(Reaching(m_edit, Qt::Key_A), 0);
     EXPECT_EQ(m_edit.text(), "42");
     m_edit.SetFilter("0", true);
@@ -100,12 +100,12 @@ TEST_F(CellEditors, LettersAreTypedWhereTheFilterTakesThem) {
     EXPECT_EQ(m_edit.text(), "a");
 }
 
-TEST_F(CellEditors, LettersSearchTheChoices) {
+TEST_F(CellEditorKeys, LettersSearchTheChoices) {
     EXPECT_EQ(Reaching(m_combo, Qt::Key_V), 0);
     EXPECT_EQ(m_combo.currentText(), "vast");
 }
 
-TEST_F(CellEditors, CommandsOverTheChoicesGoToTheGrid) {
+TEST_F(CellEditorKeys, CommandsOverTheChoicesGoToTheGrid) {
     for (const Qt::Key key : Letters)
         EXPECT_EQ(Reaching(m_combo, key, Qt::ControlModifier), 1) << key;
     EXPECT_EQ(m_combo.currentText(), "alpha");

@@ -2,6 +2,7 @@
 
 #include "editing/ComboBoxExt.h"
 #include "platform/LanguageLibrary.h"
+#include "support/Gui.h"
 #include "support/Messages.h"
 #include "support/ShownWindow.h"
 
@@ -48,11 +49,8 @@ protected:
 } // namespace
 
 TEST_F(Comparison, OffersTheToldRowsAndStartsWithNone) {
-    CStringArray rows;
-    for (int i = 0; i < m_combo.count(); ++i)
-        rows.append(m_combo.itemText(i));
-    EXPECT_EQ(rows, (CStringArray{LoadString(1632), "=", "<", ">", "<=", ">=", LoadString(1657),
-                                  LoadString(1658), LoadString(1659)}));
+    EXPECT_EQ(Gui::RowsOf(m_combo), (CStringArray{LoadString(1632), "=", "<", ">", "<=", ">=",
+                                                  LoadString(1657), LoadString(1658), LoadString(1659)}));
     EXPECT_EQ(m_pair.Operator(), 0u);
     EXPECT_FALSE(m_value.isEnabled());
 }

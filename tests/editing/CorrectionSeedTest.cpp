@@ -6,8 +6,8 @@
 
 namespace {
 
-constexpr MQC_CheckType_e Type = 9001; // a type without parameters of its own
-constexpr unsigned Id = 5;
+constexpr MQC_CheckType_e SeededType = 9001; // a type without parameters of its own
+constexpr unsigned SeededId = 5;
 
 template <class T> constexpr int DataTypeOf = 0;
 template <> constexpr int DataTypeOf<int> = DataInt;
@@ -26,9 +26,9 @@ template <class T> T Stored(const auto& value) {
 
 template <class T>
 std::unique_ptr<CCheck> CheckWith(unsigned op, const auto& values, CParameter<T>*& parameter) {
-    auto check = std::make_unique<CCheck>(Type, 0, 0, 0, 1);
-    check->Parameters.Add(CreateParameter(DataTypeOf<T>, Id, op, 0, false).release());
-    parameter = static_cast<CParameter<T>*>(check->FindParameter(Id)->Parameter.get());
+    auto check = std::make_unique<CCheck>(SeededType, 0, 0, 0, 1);
+    check->Parameters.Add(CreateParameter(DataTypeOf<T>, SeededId, op, 0, false).release());
+    parameter = static_cast<CParameter<T>*>(check->FindParameter(SeededId)->Parameter.get());
     for (const auto& value : values)
         parameter->Values.Add(Stored<T>(value));
     return check;
@@ -48,7 +48,7 @@ std::optional<Value> Seeded(unsigned op, const std::vector<Value>& values,
         standard.InsertCheck(std::move(held), sequence);
     }
     auto scratch = CheckWith<T>(op, values, parameter);
-    SeedCorrectionValue(standard, *scratch, Id);
+    SeedCorrectionValue(standard, *scratch, SeededId);
     if (parameter->CorrectionKind != CorrectionFixed)
         return std::nullopt;
     if constexpr (std::is_same_v<T, CString*>)
@@ -129,7 +129,7 @@ TYPED_TEST(CorrectionSeedNumbers, ASearchWithoutAFreeNumberLeavesTheCorrectionAs
         auto scratch = CheckWith<TypeParam>(OpNoneOf, UpTo(1, 101), parameter);
         parameter->Correction = TypeParam(55);
         parameter->CorrectionKind = kind;
-        SeedCorrectionValue(CStandard(), *scratch, Id);
+        SeedCorrectionValue(CStandard(), *scratch, SeededId);
         EXPECT_EQ(parameter->Correction, TypeParam(55));
         EXPECT_EQ(parameter->CorrectionKind, kind);
     }
@@ -210,12 +210,12 @@ TEST(CorrectionSeed, ACorrectionOfADeletedCheckIsNoEarlierValue) {
     unsigned sequence = 0;
     standard.InsertCheck(std::move(held), sequence);
     auto scratch = CheckWith<int>(OpAtLeast, std::vector{3}, parameter);
-    SeedCorrectionValue(standard, *scratch, Id);
+    SeedCorrectionValue(standard, *scratch, SeededId);
     EXPECT_EQ(parameter->Correction, 3);
 }
 
 TEST(CorrectionSeed, AParameterThatIsMissingIsLeftOut) {
-    CCheck check(Type, 0, 0, 0, 1);
+    CCheck check(SeededType, 0, 0, 0, 1);
     SeedCorrectionValue(CStandard(), check, 77);
     EXPECT_EQ(check.Parameters.Count, 0);
 }

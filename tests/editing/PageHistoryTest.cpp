@@ -6,7 +6,7 @@
 
 namespace {
 
-constexpr MQC_CheckType_e References = 107, Spelling = 203, Datum = 301, Features = 701;
+constexpr MQC_CheckType_e Spelling = 203;
 
 using PageHistory = PageRoom;
 

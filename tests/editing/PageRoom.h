@@ -3,6 +3,7 @@
 
 #include "dialogs/PaneFactory.h"
 #include "editing/PageDialog.h"
+#include "support/CheckNumbers.h"
 #include "support/Gui.h"
 
 #include <gtest/gtest.h>

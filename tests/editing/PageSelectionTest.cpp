@@ -11,8 +11,6 @@
 
 namespace {
 
-constexpr MQC_CheckType_e Arrowheads = 102, References = 107, Datum = 301, Features = 701;
-
 class PageSelection : public PageRoom {
 protected:
     void Fill() {

@@ -6,8 +6,7 @@
 
 namespace {
 
-constexpr MQC_CheckType_e Drafting = 101, Arrowheads = 102, Properties = 105, References = 107;
-constexpr MQC_CheckType_e Annotation = 201, Datum = 301, Overlap = 406, Features = 701, OnlyInFiles = 605;
+constexpr MQC_CheckType_e Properties = 105, Annotation = 201, Overlap = 406, OnlyInFiles = 605;
 
 using PageStack = PageRoom;
 

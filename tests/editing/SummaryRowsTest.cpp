@@ -11,11 +11,11 @@
 namespace {
 
 constexpr int Millimeters = 0;
-constexpr int Degrees = 0;
+constexpr int AngleDegrees = 0;
 
 // A summary that is filled with checks one by one.
 struct Summary : SummaryRows {
-    Summary() : SummaryRows(Millimeters, Degrees) {}
+    Summary() : SummaryRows(Millimeters, AngleDegrees) {}
 
     // Adds a check that `fill` has filled.
     template <class Fill> Summary& Add(MQC_CheckType_e type, Fill&& fill) {
@@ -103,7 +103,7 @@ TEST(SummaryRows, OperatorsInFrontOfTheValues) {
 }
 
 TEST(SummaryRows, UnitsAreThoseOfTheDocument) {
-    SummaryRows inches(3, Degrees);
+    SummaryRows inches(3, AngleDegrees);
     const auto check = CStandard::MakeCheck(109);
     Set(*check, 1704, OpEqual, {"2"}, "1");
     inches.AddCheck(*check);

@@ -2,16 +2,10 @@
 
 #include "engines/UnitConvertor.h"
 #include "platform/LanguageLibrary.h"
+#include "support/CheckNumbers.h"
 
 #include <gtest/gtest.h>
 #include <memory>
-
-namespace {
-
-constexpr unsigned long Millimetre = 0, Centimetre = 1;
-constexpr unsigned long Degree = 0, Radian = 3;
-
-} // namespace
 
 TEST(UnitSettings, AChangeOfUnitRewritesTheValueAndItsLabel) {
     QLineEdit value("1, 2 ,x");

@@ -1,6 +1,7 @@
 // Measured numbers and their units.
 #include "engines/EnumEngine.h"
 
+#include "Units.h"
 #include "engines/ParameterKinds.h"
 #include "platform/LanguageLibrary.h"
 
@@ -9,8 +10,7 @@
 
 namespace {
 
-constexpr unsigned long Millimetre = 0, Metre = 2, FootAndInch = 5, NoUnit = 0xFFFFFFFF;
-constexpr unsigned long Degree = 0, Minute = 1;
+constexpr unsigned long NoUnit = 0xFFFFFFFF;
 
 CString Measured(int type, double value, unsigned long lengthUnit, unsigned long angleUnit = Degree) {
     CString text;

@@ -1,5 +1,6 @@
 #include "engines/UnitText.h"
 
+#include "Units.h"
 #include "engines/UnitConvertor.h"
 #include "platform/Format.h"
 #include "platform/LanguageLibrary.h"
@@ -8,8 +9,6 @@
 
 namespace {
 
-constexpr unsigned long Millimetre = 0, Centimetre = 1, Metre = 2, FootAndInch = 5;
-constexpr unsigned long Degree = 0, Minute = 1, Radian = 3;
 constexpr unsigned long Plain = 0, Squared = 1, Cubed = 2;
 
 CString Lengths(const CString& text, unsigned long power = Plain) {

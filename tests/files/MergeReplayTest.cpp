@@ -6,7 +6,7 @@
 
 namespace {
 
-std::vector<std::filesystem::path> Corpus(const char* name) {
+std::vector<std::filesystem::path> FilesOf(const char* name) {
     std::vector<std::filesystem::path> files;
     const std::filesystem::path folder = std::filesystem::path(RULEWARD_SOURCE_FOLDER) / "fuzz/corpus" / name;
     for (const auto& entry : std::filesystem::directory_iterator(folder))
@@ -18,7 +18,7 @@ std::vector<std::filesystem::path> Corpus(const char* name) {
 template <class Room> void Replay(const char* corpus) {
     const ScratchFolder folder;
     const Room room(folder.Path());
-    const auto files = Corpus(corpus);
+    const auto files = FilesOf(corpus);
     ASSERT_GE(files.size(), 40u);
     for (const auto& file : files)
         EXPECT_EQ(room.Try(ReadBytes(file)), "") << file;

@@ -26,7 +26,7 @@ public:
     }
 };
 
-QByteArray PageOf(CStandard& standard, const TestFolder& folder) {
+QByteArray RenderedPage(CStandard& standard, const TestFolder& folder) {
     const ReportFiles files = WriteReportFiles(standard, folder.Path());
     return RenderReportHtml(files.xmlPath, files.stylesheetPath).html;
 }
@@ -94,7 +94,7 @@ TEST(ReportPages, PdfHoldsTheWordsOfTheReport) {
         CStandard standard;
         FillStandard(standard);
         const CString pdf = folder.Path("a.pdf");
-        ASSERT_TRUE(WriteReportPdf(PageOf(standard, folder), folder.Path(), pdf, "Plate rules").ok);
+        ASSERT_TRUE(WriteReportPdf(RenderedPage(standard, folder), folder.Path(), pdf, "Plate rules").ok);
         const CString text = TextOf(pdf).join(' ').simplified();
         for (const unsigned id : {1945u, 2394u, 2395u, 2261u, 1907u, 2004u})
             EXPECT_TRUE(text.contains(LoadString(id))) << id;
@@ -107,7 +107,7 @@ TEST(ReportPages, FontsAreEmbedded) {
     const TestFolder folder;
     CStandard standard;
     FillStandard(standard);
-    ASSERT_TRUE(WriteReportPdf(PageOf(standard, folder), folder.Path(), folder.Path("a.pdf"), "x").ok);
+    ASSERT_TRUE(WriteReportPdf(RenderedPage(standard, folder), folder.Path(), folder.Path("a.pdf"), "x").ok);
     CStringArray fonts =
         QString::fromUtf8(RunProgram("pdffonts", {folder.Path("a.pdf")})).split('\n', Qt::SkipEmptyParts);
     ASSERT_GT(fonts.size(), 2);
@@ -157,7 +157,7 @@ TEST(ReportPages, CheckTallerThanAPageGoesOnWithWholeValues) {
     AddCheckWith(standard, 312, 1742, OpOneOf, {"2"});
     AddCheckWith(standard, 104, 1724, OpOneOf, ManyValues(300));
     const CString pdf = folder.Path("a.pdf");
-    ASSERT_TRUE(WriteReportPdf(PageOf(standard, folder), folder.Path(), pdf, "x").ok);
+    ASSERT_TRUE(WriteReportPdf(RenderedPage(standard, folder), folder.Path(), pdf, "x").ok);
     const CStringArray pages = TextOf(pdf);
     EXPECT_TRUE(pages.at(0).contains("value0end")); // the check begins where it stands
     for (const CString& value : ManyValues(300))
@@ -244,7 +244,7 @@ TEST(ReportDocument, PicturesOfTheReportAreShown) {
         const TestFolder folder;
         CStandard standard;
         AddCheckWith(standard, 304, 1566, OpOneOf, {"0"}); // a label with an umlaut in German
-        const QByteArray page = PageOf(standard, folder);
+        const QByteArray page = RenderedPage(standard, folder);
         const QRegularExpressionMatch source =
             QRegularExpression("img src=\"([^\"]*)\"").match(QString::fromUtf8(page));
         ASSERT_TRUE(source.hasMatch());

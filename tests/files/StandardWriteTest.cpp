@@ -32,14 +32,6 @@ CString Escaped(unsigned id) {
     return LoadString(id).toHtmlEscaped();
 }
 
-CCheck& Insert(CStandard& standard, int type) {
-    unsigned number = 0;
-    standard.InsertCheck(CStandard::MakeCheck(type), number);
-    CCheck* check = nullptr;
-    standard.FindBySequence(number, check);
-    return *check;
-}
-
 void SetLong(CCheck& check, unsigned id, unsigned op, const std::vector<long>& values) {
     CParameter<long>& parameter = *check.GetLongParameter(id);
     parameter.Operator = op;
@@ -47,14 +39,21 @@ void SetLong(CCheck& check, unsigned id, unsigned op, const std::vector<long>& v
         parameter.Values.Add(value);
 }
 
+CCheck& Inserted(CStandard& standard, int type) {
+    Insert(standard, type);
+    CCheck* check = nullptr;
+    standard.FindBySequence(standard.LastSequence, check);
+    return *check;
+}
+
 // A display mode check with the value 2 and a deleted spelling check, in millimetres and degrees.
 void FillExample(CStandard& standard) {
     standard.Unit = 0;
     standard.AngularUnit = 0;
-    CCheck& modes = Insert(standard, 312);
+    CCheck& modes = Inserted(standard, 312);
     SetLong(modes, 1742, OpOneOf, {2});
     modes.GetLongParameter(1742)->Correction = 2;
-    CCheck& spelling = Insert(standard, 203);
+    CCheck& spelling = Inserted(standard, 203);
     spelling.Criticality = 2;
     spelling.LifeStatus = LifeDeleted;
 }

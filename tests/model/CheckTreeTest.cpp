@@ -113,11 +113,6 @@ CString ShapeOf(const CCheck& check) {
     return "(" + parts.join(" ") + ")";
 }
 
-void Insert(CStandard& standard, int type) {
-    unsigned number = 0;
-    standard.InsertCheck(CStandard::MakeCheck(type), number);
-}
-
 // A tree of any shape: nodes with two links, or none at the ends, and checks anywhere.
 CCheck* RandomTree(RandomStandard& random, CStandard& standard, int depth) {
     const auto check = [&standard] { return new CCheck(406, ++standard.LastSequence, 0, 0, 1); };

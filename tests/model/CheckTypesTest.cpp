@@ -21,7 +21,7 @@ struct TypeRow {
     const char* parameters;
 };
 
-constexpr TypeRow Rows[] = {
+constexpr TypeRow TypeRows[] = {
     {101, 1581, 2, "1578 l4, 0 s0"},
     {102, 1579, 9, "1552 d1*, 1553 d1*, 1554 d1*, 1555 d1*, 1556 d1*, 1557 d1*, 1558 i3, 1559 i3, 1560 i3"},
     {103, 0, 7, FONTS},
@@ -119,7 +119,7 @@ CString Described(const CCheck& check) {
 } // namespace
 
 TEST(CheckTypes, EveryTypeHasItsNameAndParametersInOrder) {
-    for (const TypeRow& row : Rows) {
+    for (const TypeRow& row : TypeRows) {
         const CCheck check(row.type, 0, 0, 0, 1);
         EXPECT_EQ(check.Name, row.nameText ? LoadString(row.nameText) : CString()) << row.type;
         EXPECT_EQ(check.Name.isEmpty(), row.nameText == 0) << row.type;
@@ -129,7 +129,7 @@ TEST(CheckTypes, EveryTypeHasItsNameAndParametersInOrder) {
 }
 
 TEST(CheckTypes, NewParametersHaveLabelsAndNothingElse) {
-    for (const TypeRow& row : Rows) {
+    for (const TypeRow& row : TypeRows) {
         const CCheck check(row.type, 0, 0, 0, 1);
         for (const CParameterEntry* entry : check.Parameters) {
             const CParameterBase& parameter = *entry->Parameter;
@@ -145,7 +145,7 @@ TEST(CheckTypes, NewParametersHaveLabelsAndNothingElse) {
 
 TEST(CheckTypes, NoOtherCodeHasNameOrParameters) {
     std::set<int> known;
-    for (const TypeRow& row : Rows)
+    for (const TypeRow& row : TypeRows)
         known.insert(row.type);
     for (int type = -5; type < 1000; ++type) {
         if (known.contains(type))
@@ -163,7 +163,7 @@ TEST(CheckTypes, TableIsInTheOrderOfTheCodes) {
         EXPECT_GT(row.type, before);
         before = row.type;
     }
-    EXPECT_EQ(AllCheckTypes().size(), std::size(Rows) - 3) << "404, 502 and 605 hold nothing";
+    EXPECT_EQ(AllCheckTypes().size(), std::size(TypeRows) - 3) << "404, 502 and 605 hold nothing";
 }
 
 TEST(CheckTypes, ParameterOfTheOverriddenDimensionIsNumberedLikeItsName) {

@@ -1,16 +1,11 @@
 #include "engines/UnitConvertor.h"
 #include "model/Check.h"
+#include "support/CheckNumbers.h"
 #include "support/Messages.h"
 
 #include <gtest/gtest.h>
 
 namespace {
-
-constexpr int Millimetre = 0;
-constexpr int Centimetre = 1;
-constexpr int Inch = 3;
-constexpr int Degree = 0;
-constexpr int Radian = 3;
 
 double Converted(int type, unsigned id, double value) {
     CCheck check(type, 0, 0, 0, 1);

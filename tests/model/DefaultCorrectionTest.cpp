@@ -31,7 +31,7 @@ CString TextDefaultOf(unsigned op, const CStringArray& values) {
     return ValueForm<CString*>::Format(parameter.Correction);
 }
 
-std::vector<long> Numbers(long from, long to) {
+std::vector<long> NumbersFrom(long from, long to) {
     std::vector<long> numbers;
     for (long n = from; n <= to; ++n)
         numbers.push_back(n);
@@ -67,8 +67,8 @@ TEST(DefaultCorrection, NoneOfTakesTheNextNumberOutsideTheList) {
 }
 
 TEST(DefaultCorrection, NoneOfGivesUpAfterAHundredNumbers) {
-    EXPECT_EQ(DefaultOf<long>(OpNoneOf, Numbers(1, 101), 55), 55);
-    EXPECT_EQ(DefaultOf<long>(OpNoneOf, Numbers(1, 100), 55), 101);
+    EXPECT_EQ(DefaultOf<long>(OpNoneOf, NumbersFrom(1, 101), 55), 55);
+    EXPECT_EQ(DefaultOf<long>(OpNoneOf, NumbersFrom(1, 100), 55), 101);
 }
 
 TEST(DefaultCorrection, OutOfForceAndTextOnlyHaveNone) {

@@ -1,3 +1,4 @@
+#include "support/CheckNumbers.h"
 #include "support/StandardText.h"
 
 #include <gtest/gtest.h>
@@ -5,16 +6,6 @@
 namespace {
 
 using Numbers = std::vector<unsigned>;
-
-constexpr int Millimetre = 0;
-constexpr int Inch = 3;
-constexpr int Degree = 0;
-constexpr int Radian = 3;
-
-void Insert(CStandard& standard, int type) {
-    unsigned number = 0;
-    standard.InsertCheck(CStandard::MakeCheck(type), number);
-}
 
 // Checks 102 (numbers 1 and 3) and 312 (number 2); number 1 is deleted.
 void Fill(CStandard& standard) {

@@ -10,9 +10,6 @@
 
 namespace {
 
-constexpr unsigned AddDrafting = 32771, AddReferences = 32775, AddDatum = 32778, AddFeatures = 32893;
-constexpr MQC_CheckType_e Drafting = 101, References = 107, Datum = 301, Features = 701;
-constexpr int OwnStandard = 1020, NameOfStandard = 1315; // controls
 constexpr unsigned AskToReplace = 1937;
 
 class Clipboard : public ViewRoom {

@@ -12,6 +12,7 @@
 #include "shell/CommandTable.h"
 #include "shell/MainFrame.h"
 #include "shell/TabToolbar.h"
+#include "support/CheckNumbers.h"
 #include "support/Gui.h"
 #include "support/TestFolder.h"
 

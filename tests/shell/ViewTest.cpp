@@ -11,13 +11,9 @@
 
 namespace {
 
-constexpr unsigned AddDrafting = 32771, AddArrowheads = 32772, AddReferences = 32775, AddNoteFont = 32896,
-                   AddDatum = 32778, AddFeatures = 32893;
-constexpr MQC_CheckType_e Drafting = 101, Arrowheads = 102, References = 107, NoteFont = 109, Datum = 301,
-                          Features = 701;
 constexpr unsigned UnknownInRange = 32800, NothingToDo = 32859;
 
-constexpr int Iso = 1007, OwnStandard = 1020, NameOfStandard = 1315; // controls
+constexpr int Iso = 1007; // a control
 
 class ViewCommands : public ViewRoom {
 protected:

@@ -11,12 +11,11 @@
 
 namespace {
 
-constexpr unsigned AddArrowheads = 32772, AddReferences = 32775, AddGap = 32922;
-constexpr MQC_CheckType_e Arrowheads = 102, References = 107, NoteFont = 109, Gap = 314;
+constexpr unsigned AddGap = 32922;
+constexpr MQC_CheckType_e Gap = 314;
 constexpr unsigned ArrowLength = 1552, GapLength = 2293; // parameters
 constexpr int HeightCombo = 1001, HeightField = 1002;    // controls of a font check
 constexpr int EqualRow = 1, OneOfRow = 7;                // of its comparisons
-constexpr int Millimetre = 0, Metre = 2, Inch = 3, FeetAndInches = 5, Degree = 0, Radian = 3;
 
 class ViewUnits : public ViewRoom {
 protected:
@@ -185,7 +184,7 @@ TEST_F(ViewUnits, AUnitThatIsNotOfferedIsKept) {
     View().RebuildDisplay();
     View().ActivatePage(OptionsPage);
     EXPECT_EQ(View().GetOptionsPage().GetDlgItem<QComboBox>(1280)->currentIndex(), -1);
-    EXPECT_EQ(Standard().Unit, FeetAndInches);
+    EXPECT_EQ(Standard().Unit, 5) << "feet and inches";
 }
 
 TEST_F(ViewUnits, AUnitThatIsNotOfferedStaysInTheFile) {

@@ -127,6 +127,13 @@ void Focus(QWidget& target) {
     Settle();
 }
 
+CStringArray RowsOf(const QComboBox& combo) {
+    CStringArray rows;
+    for (int i = 0; i < combo.count(); ++i)
+        rows.append(combo.itemText(i));
+    return rows;
+}
+
 void ChooseRow(QWidget& combo, int row) {
     auto& box = dynamic_cast<QComboBox&>(combo);
     Focus(box);

@@ -9,6 +9,8 @@
 #include <QWidget>
 #include <functional>
 
+class QComboBox;
+
 namespace Gui {
 
 // The Setup of test programs with widgets. Each test must leave no widget behind: the leak checker does not
@@ -38,6 +40,7 @@ void Focus(QWidget& target);
 
 // The control's row, chosen as by mouse or keys.
 void ChooseRow(QWidget& combo, int row);
+CStringArray RowsOf(const QComboBox& combo);
 
 // Answers the next modal window: waits for it and calls `answer` with it. Where none comes within the time
 // limit the test that asks `WasAnswered` fails. Nested windows: one Answer for each, made in the order in

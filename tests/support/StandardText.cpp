@@ -26,6 +26,11 @@ CString LiveTextOf(const CStandard& standard) {
     return TextOf(live);
 }
 
+void Insert(CStandard& standard, int type) {
+    unsigned number = 0;
+    standard.InsertCheck(CStandard::MakeCheck(type), number);
+}
+
 CheckList AllOf(const CStandard& standard) {
     CheckList checks;
     standard.GetAllChecks(checks);

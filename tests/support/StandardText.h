@@ -15,6 +15,8 @@ void ReadText(const CString& text, CStandard& standard);
 CString LiveTextOf(const CStandard& standard);
 
 // All checks, or the live ones, by number.
+// A new check as a command adds it.
+void Insert(CStandard& standard, int type);
 CheckList AllOf(const CStandard& standard);
 CheckList LiveOf(const CStandard& standard);
 std::vector<unsigned> NumbersOf(const CheckList& checks);
