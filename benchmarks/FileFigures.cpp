@@ -2,6 +2,7 @@
 #include "files/Packing.h"
 #include "files/XmlDocument.h"
 #include "model/Standard.h"
+#include "support/MemoryFolder.h"
 
 #include <QDir>
 #include <QFile>
@@ -58,7 +59,7 @@ void BareSerialiseAndDeflate(xmlDoc* document) {
 } // namespace
 
 std::vector<Figure> FileFigures() {
-    const QTemporaryDir folder;
+    const QTemporaryDir folder(MemoryFolderTemplate());
     QDir(folder.path()).mkdir("work");
     const CString xml = folder.filePath("work/standard.kvstd");
     CStandard standard;

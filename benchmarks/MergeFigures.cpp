@@ -1,6 +1,7 @@
 #include "Figures.h"
 #include "files/Merge.h"
 #include "model/Standard.h"
+#include "support/MemoryFolder.h"
 
 #include <QDir>
 #include <QTemporaryDir>
@@ -32,7 +33,7 @@ CStringArray WriteSources(const QTemporaryDir& folder) {
 }
 
 void MergeFirst(const CStringArray& paths, int count) {
-    const QTemporaryDir work;
+    const QTemporaryDir work(MemoryFolderTemplate());
     CStringArray files = paths.mid(0, count);
     CStringArray rejected;
     CStringArray report;
@@ -43,7 +44,7 @@ void MergeFirst(const CStringArray& paths, int count) {
 } // namespace
 
 std::vector<Figure> MergeFigures() {
-    const QTemporaryDir sources;
+    const QTemporaryDir sources(MemoryFolderTemplate());
     const CStringArray paths = WriteSources(sources);
     const std::vector<double> times =
         MedianTimes({[&] { // ten merges of ten, so that the times compared are of one order

@@ -1,4 +1,4 @@
-// Measures the windows, without a screen.
+// Measures the windows, without a screen; the start on a display that nobody sees.
 #include "gui/GuiFigures.h"
 #include "platform/LanguageLibrary.h"
 #include "platform/Message.h"

@@ -67,7 +67,19 @@ void CChoiceList::Choose(const CStringArray& texts, bool addsMissing) {
 
 QSize CChoiceList::sizeHint() const {
     const int room = m_columns > 1 ? 2 : 0; // a column that is filled to the last pixel would be broken early
-    return {LeastWidth, m_visibleRows * RowHeight + room + 2 * (frameWidth() + Margin)};
+    const int around = 2 * (frameWidth() + Margin);
+    const int columns = m_columns > 1 ? m_columns * WidestRow() : 0;
+    return {qMax(LeastWidth, columns + around), m_visibleRows * RowHeight + room + around};
+}
+
+int CChoiceList::WidestRow() const {
+    QStyleOptionViewItem option;
+    initViewItemOption(&option);
+    const QStyledItemDelegate measure;
+    int widest = 0;
+    for (int row = 0; row < count(); ++row)
+        widest = qMax(widest, measure.sizeHint(option, model()->index(row, 0)).width());
+    return widest;
 }
 
 // Columns only where all rows are whole and in sight; one column can be scrolled.
@@ -76,13 +88,7 @@ int CChoiceList::ColumnsThatFit() const {
     const int rows = (count() + m_columns - 1) / m_columns;
     if (m_columns == 1 || room.height() <= rows * RowHeight)
         return 1;
-    QStyleOptionViewItem option;
-    initViewItemOption(&option);
-    const QStyledItemDelegate measure;
-    for (int row = 0; row < count(); ++row)
-        if (measure.sizeHint(option, model()->index(row, 0)).width() > room.width() / m_columns)
-            return 1;
-    return m_columns;
+    return WidestRow() > room.width() / m_columns ? 1 : m_columns;
 }
 
 void CChoiceList::resizeEvent(QResizeEvent* event) {

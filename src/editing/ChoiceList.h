@@ -36,6 +36,7 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
+    int WidestRow() const;
     int ColumnsThatFit() const;
 
     int m_visibleRows = 4;

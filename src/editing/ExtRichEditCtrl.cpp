@@ -42,6 +42,11 @@ private:
 
 CExtRichEditCtrl::CExtRichEditCtrl(QWidget* parent) : QLineEdit(parent) {
     setValidator(new AdmittedText(this));
+    // What is longer than the field is seen from its beginning, unless the user is in it.
+    connect(this, &QLineEdit::textChanged, this, [this] {
+        if (!hasFocus())
+            setCursorPosition(0);
+    });
 }
 
 void CExtRichEditCtrl::SetFilter(const CString& text, bool exclude) {

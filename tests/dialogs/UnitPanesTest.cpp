@@ -72,6 +72,17 @@ TEST_F(DocumentUnits, OfferTheToldRows) {
     }
 }
 
+// Nothing has to be scrolled to be found.
+TEST_F(DocumentUnits, EveryUnitIsInSight) {
+    for (const int number : {Lengths, DualLengths, MassLengths, Masses, Volumes, Forces, Angles}) {
+        const QListWidget& list = Hand().List(number);
+        for (int row = 0; row < list.count(); ++row) {
+            const QRect place = list.visualItemRect(list.item(row));
+            EXPECT_TRUE(list.viewport()->rect().contains(place)) << number << ", row " << row;
+        }
+    }
+}
+
 TEST_F(DocumentUnits, UnitSystemsAreWrittenInTheirOwnOrder) {
     for (const int box : {1128, 1126, 1129, 1130, 1127})
         Hand().Click(box);

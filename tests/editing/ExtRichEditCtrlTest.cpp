@@ -109,3 +109,16 @@ TEST_F(FilteredField, WhatAProgramSetsIsNotFiltered) {
     m_field.setText("No");
     EXPECT_EQ(m_field.text(), "No");
 }
+
+TEST_F(FilteredField, WhatIsLongerThanTheFieldIsSeenFromItsBeginning) {
+    const CString values = CStringArray(50, "12.5").join(" , ");
+    m_field.setFocus();
+    m_field.setText(values);
+    EXPECT_EQ(m_field.cursorPosition(), values.size()) << "the user goes on where he is";
+    m_field.clearFocus();
+    m_field.setText(values + ", 1");
+    EXPECT_EQ(m_field.cursorPosition(), 0);
+    m_field.setEnabled(false);
+    m_field.setText(values);
+    EXPECT_EQ(m_field.cursorPosition(), 0);
+}

@@ -1,7 +1,9 @@
 #include "support/GuiAgreement.h"
 
+#include "dialogs/ParameterCheckDlg.h"
 #include "editing/CheckPropertySheet.h"
 #include "model/Catalogue.h"
+#include "model/ParameterValue.h"
 #include "platform/LanguageLibrary.h"
 #include "shell/CatalogueButton.h"
 #include "shell/ChildFrame.h"
@@ -13,12 +15,11 @@
 #include <QComboBox>
 #include <QLabel>
 #include <algorithm>
+#include <type_traits>
 
 namespace {
 
 constexpr unsigned CountText = 59143;
-constexpr MQC_CheckType_e DraftingStandard = 101;
-constexpr unsigned DraftingStandards = 1578, DraftingStandardName = 0;
 
 class Comparison {
 public:
@@ -84,27 +85,44 @@ private:
             Expect(pane.Criticality == check.Criticality, name + "criticality of the pane");
             Expect(combo->currentIndex() == static_cast<int>(check.Criticality), name + "criticality shown");
         }
-        if (check.Type != DraftingStandard)
-            return;
-        CCheck filled(check.Type, 0, 0, 0, 1);
-        pane.FillCheckParameters(filled); // writing corrections too would move the keyboard
-        Expect(SameValues(filled.GetLongParameter(DraftingStandards),
-                          check.GetLongParameter(DraftingStandards), [](long value) { return value; }),
-               name + "standards that are allowed");
-        Expect(SameValues(filled.GetStringParameter(DraftingStandardName),
-                          check.GetStringParameter(DraftingStandardName),
-                          [](const CString* value) { return *value; }),
-               name + "name of the custom standard");
+        if (!dynamic_cast<CParameterCheckDlg*>(&pane))
+            return; // it has no values to show
+        const auto shown = CStandard::MakeCheck(check.Type);
+        pane.FillCheckParameters(*shown); // writing corrections too would move the keyboard
+        CompareParameters(*shown, check, name);
+        Expect(shown->Children.Count == check.Children.Count, name + "number of entries");
+        for (int i = 0; i < std::min(shown->Children.Count, check.Children.Count); ++i)
+            CompareParameters(*shown->Children[i], *check.Children[i], name + CString("entry %1, ").arg(i));
     }
 
-    template <class Parameter, class Read>
-    static bool SameValues(const Parameter* one, const Parameter* other, Read read) {
-        if (one->Operator != other->Operator || one->Values.Count != other->Values.Count)
-            return false;
-        for (int i = 0; i < one->Values.Count; ++i)
-            if (read(one->Values[i]) != read(other->Values[i]))
-                return false;
-        return true;
+    void CompareParameters(const CCheck& shown, const CCheck& check, const CString& name) {
+        for (const CParameterEntry* entry : shown.Parameters) {
+            const CParameterEntry* other = check.FindParameter(entry->Parameter->ID);
+            const CString one = TextOf(*entry), two = other ? TextOf(*other) : "no parameter";
+            if (one != two)
+                Expect(false, name + CString("parameter %1 is shown as %2 and stands as %3")
+                                         .arg(entry->Parameter->ID)
+                                         .arg(one, two));
+        }
+    }
+
+    // Operator and values; nothing where there is no value, since a save takes such a comparison out of
+    // force. A figure in the field of a pane is converted by itself when the unit changes, and may differ
+    // from the check's in the last digits.
+    static CString TextOf(const CParameterEntry& entry) {
+        CString text;
+        VisitParameter(entry, [&text](const auto& parameter) {
+            if (parameter.Values.Count > 0)
+                text = CString::number(parameter.Operator) + ":";
+            for (const auto& value : parameter.Values) {
+                using Value = std::decay_t<decltype(value)>;
+                if constexpr (std::is_same_v<Value, double>)
+                    text += CString::number(value, 'g', 4) + ",";
+                else
+                    text += ValueForm<Value>::Format(value) + ",";
+            }
+        });
+        return text;
     }
 
     void CompareButtons(const CPDCheckInfo& info, const CString& name) {

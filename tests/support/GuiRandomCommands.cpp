@@ -9,6 +9,7 @@
 #include <QAbstractButton>
 #include <QComboBox>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QPlainTextEdit>
 #include <QSpinBox>
 #include <QTextEdit>
@@ -111,6 +112,10 @@ void RandomWalk::EditAnyControl() {
                qobject_cast<QPlainTextEdit*>(&control)) {
         Gui::Focus(control);
         Gui::Type(control, QChar('0' + static_cast<char>(Below(10))));
+    } else if (auto* list = qobject_cast<QListWidget*>(&control); list && list->count() > 0) {
+        auto* item = list->item(static_cast<int>(Below(static_cast<unsigned>(list->count()))));
+        list->scrollToItem(item);
+        Gui::ClickAt(*list->viewport(), list->visualItemRect(item).center());
     } else if (qobject_cast<QSpinBox*>(&control)) {
         Gui::Key(control, Chance(50) ? Qt::Key_Up : Qt::Key_Down);
     }

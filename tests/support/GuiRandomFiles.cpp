@@ -1,8 +1,10 @@
 // How a random walk opens, saves and closes standards, and proves what it has saved.
 #include "files/Packing.h"
+#include "model/Catalogue.h"
 #include "support/FilledStandard.h"
 #include "support/Gui.h"
 #include "support/GuiRandom.h"
+#include "support/PaneRoom.h"
 #include "support/StandardText.h"
 
 #include <QCryptographicHash>
@@ -13,19 +15,23 @@
 namespace {
 
 constexpr MQC_CheckType_e DraftingStandard = 101, CustomChecks = 122;
-constexpr unsigned DraftingStandards = 1578, DraftingStandardName = 0;
+constexpr unsigned DraftingStandards = 1578;
 constexpr unsigned MostFiles = 4;
 
 CString FileNameOf(unsigned number) {
     return CString("Walk%1.kvstd").arg(number);
 }
 
-// The pane knows only this form of the check; others stay as they are until it is touched.
-void MakeLikeThePane(CStandard& standard) {
+// As the panes write them: they know only some forms of a check, and leave others until they are touched.
+void MakeLikeThePanes(CStandard& standard) {
+    PaneRoom room;
+    FillStandard(room.standard);
+    room.Show();
+    room.TakeUp();
+    for (const PageCheckRow& row : PageChecks())
+        room.Pane(row.type)->OnParameterChanged();
+    standard.LoadFromXmlText(LiveTextOf(room.standard));
     CCheck* check = nullptr;
-    standard.FindLiveByType(DraftingStandard, check);
-    SetParameter(*check, DraftingStandards, OpOneOf, {"1", "3"});
-    SetParameter(*check, DraftingStandardName, OpNone, {});
     standard.FindLiveByType(CustomChecks, check);
     check->Criticality = 3; // its pane shows none, and must keep it
 }
@@ -48,8 +54,7 @@ CString StoredTextOf(const CStandard& standard) {
 
 void RandomWalk::WriteStandards(const CString& folder) {
     CStandard filled;
-    FillStandard(filled);
-    MakeLikeThePane(filled);
+    MakeLikeThePanes(filled);
     filled.SaveToFile(QDir(folder).filePath(FileNameOf(0)));
     CStandard small;
     small.Unit = 1;

@@ -1,5 +1,5 @@
-// Where tests that make very many files put them: in memory if possible, so that neither the speed nor the
-// life of a disk comes into it.
+// Where tests that make very many files, and measurements, put them: in memory if possible, so that neither
+// the speed nor the life of a disk comes into it.
 #pragma once
 
 #include <QDir>
