@@ -60,8 +60,8 @@ private:
     }
 
     void ChooseUnits() {
-        ChooseLengthUnit(MillimeterRow);
-        Shoot("units", "The options: the standard is to be in millimeters.");
+        ChooseLengthUnit(InchRow);
+        Shoot("units", "The options: the standard is to be in inches.");
         m_tool.ShowPage(ChecksPage);
     }
 
@@ -88,9 +88,9 @@ private:
             Gui::ClickAt(*fonts.viewport(), fonts.visualItemRect(fonts.item(0)).center());
             Gui::ChooseRow(*Gui::FindNumber(dialog, HeightComparison), EqualRow);
             Gui::Focus(*Gui::FindNumber(dialog, HeightField));
-            Gui::Type(*Gui::FindNumber(dialog, HeightField), "3.5");
+            Gui::Type(*Gui::FindNumber(dialog, HeightField), "0.125");
             m_steps.Shoot(dialog.grab().toImage(), "font",
-                          "A font check is added: a face, and letters 3.5 mm high.");
+                          "A font check is added: a face, and letters 0.125 inches high.");
             Gui::Click(*Gui::FindNumber(dialog, OkButton));
         });
         m_tool.PressCheck(NoteFont);
@@ -124,11 +124,11 @@ private:
     CString Height() { return m_tool.Control<QLineEdit>(NoteFont, HeightField)->text(); }
 
     void ConvertUnits() {
-        ChooseLengthUnit(InchRow);
+        ChooseLengthUnit(MillimeterRow);
         m_tool.ShowPage(ChecksPage);
-        m_steps.Expect(Height() == "0.1377952756", "a height of 3.5 mm is 0.1377952756 in");
+        m_steps.Expect(Height() == "3.175", "a height of 0.125 inches is 3.175 mm");
         m_tool.Page().ShowCheck(NoteFont);
-        Shoot("units-converted", "The same standard in inches: every value is converted.");
+        Shoot("units-converted", "The same standard in millimeters: every value is converted.");
     }
 
     void Save() {
