@@ -128,7 +128,7 @@ ReportPage RenderReportHtml(const CString& xmlPath, const CString& stylesheetPat
         return page;
     const Owned<xsltStylesheet> stylesheet(xsltParseStylesheetDoc(program.get()));
     if (stylesheet) {
-        program.release(); // the stylesheet frees it
+        static_cast<void>(program.release()); // the stylesheet frees it
         page.html = Transform(document.get(), stylesheet.get(), rights, library.words);
     }
     if (page.html.isEmpty())
