@@ -27,6 +27,11 @@ CString ListText(const CGrowArray<double>& values) {
     return text;
 }
 
+// As rich text, for only that is wrapped where it is long. Without a text there is no tip.
+CString TipOf(const CString& text) {
+    return text.isEmpty() ? CString() : text.toHtmlEscaped().prepend("<qt>");
+}
+
 // Both bounds of a range: a single one is the lower and the upper.
 CString WithBothBounds(const CString& entered) {
     CString text = entered;
@@ -140,7 +145,7 @@ bool ComparisonPair::eventFilter(QObject* watched, QEvent* event) {
     if (isValue && event->type() == QEvent::FocusOut && IsLeft(*event))
         OnValueCompleted();
     else if (isValue && event->type() == QEvent::ToolTip)
-        m_value->setToolTip(m_value->text().toHtmlEscaped().prepend("<qt>")); // a long one is wrapped
+        m_value->setToolTip(TipOf(m_value->text()));
     else if (!isValue && event->type() == QEvent::KeyPress)
         m_isByKey = !OpensList(static_cast<QKeyEvent&>(*event));
     else if (!isValue && event->type() == QEvent::MouseButtonPress)

@@ -147,6 +147,13 @@ TEST_F(Comparison, ShowingTellsNobodyAndChecksNothing) {
     EXPECT_TRUE(m_messages.texts.isEmpty());
 }
 
+TEST_F(Comparison, TheTipTellsTheWholeTextAndNothingWithoutOne) {
+    m_pair.Show(2, "1 , 2");
+    EXPECT_EQ(Gui::TipAt(m_value, {5, 5}), "<qt>1 , 2");
+    m_pair.Show(0, {});
+    EXPECT_EQ(Gui::TipAt(m_value, {5, 5}), "");
+}
+
 TEST_F(Comparison, CanBeDisabledAsAWhole) {
     m_pair.Show(3, "1");
     m_pair.SetEnabled(false);

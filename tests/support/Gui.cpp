@@ -7,9 +7,11 @@
 #include <QDialog>
 #include <QEvent>
 #include <QFileDialog>
+#include <QHelpEvent>
 #include <QItemSelectionModel>
 #include <QLineEdit>
 #include <QTimer>
+#include <QToolTip>
 #include <QWheelEvent>
 #include <QtTest>
 #include <gtest/gtest.h>
@@ -125,6 +127,16 @@ void Wheel(QWidget& target, int angle) {
 void Focus(QWidget& target) {
     target.setFocus(Qt::TabFocusReason);
     Settle();
+}
+
+CString TipAt(QWidget& target, QPoint place) {
+    // Qt takes an older tip away only after a while.
+    QToolTip::showText({}, "?");
+    QHelpEvent rest(QEvent::ToolTip, place, target.mapToGlobal(place));
+    QApplication::sendEvent(&target, &rest);
+    Settle();
+    const CString text = QToolTip::text();
+    return text == "?" ? CString() : text;
 }
 
 CStringArray RowsOf(const QComboBox& combo) {

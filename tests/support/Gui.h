@@ -38,6 +38,9 @@ void Wheel(QWidget& target, int angle);          // 120 is one notch away from t
 // Gives the keyboard to a control as Tab would.
 void Focus(QWidget& target);
 
+// What the tip says while the pointer rests at a place of the target; empty where there is none.
+CString TipAt(QWidget& target, QPoint place);
+
 // The control's row, chosen as by mouse or keys.
 void ChooseRow(QWidget& combo, int row);
 CStringArray RowsOf(const QComboBox& combo);
