@@ -1,8 +1,6 @@
 #include "dialogs/PartBendTableDlg.h"
 
-#include "editing/ComboBoxExt.h"
 #include "editing/FileList.h"
-#include "editing/MyStatic.h"
 #include "platform/LanguageLibrary.h"
 #include "platform/Settings.h"
 #include "platform/widgets/NameFilters.h"
@@ -33,12 +31,7 @@ CPartBendTableDlg::CPartBendTableDlg(EditingHost& host)
 
 bool CPartBendTableDlg::OnInitDialog() {
     m_tables = GetDlgItem<FileList>(Tables);
-    if (!m_tables || !CValuePane::OnInitDialog())
-        return false;
-    // A path is longer than its box.
-    if (const auto* correction = GetDlgItem<CMyStatic>(Correction))
-        connect(correction->List(), &QComboBox::currentTextChanged, correction->List(), &QWidget::setToolTip);
-    return true;
+    return m_tables && CValuePane::OnInitDialog();
 }
 
 void CPartBendTableDlg::PrepareControls() {

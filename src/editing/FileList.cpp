@@ -2,6 +2,7 @@
 
 #include "platform/LanguageLibrary.h"
 
+#include <QAction>
 #include <QKeyEvent>
 #include <QMenu>
 #include <QMimeData>
@@ -12,6 +13,8 @@
 
 namespace {
 
+constexpr int RemoveCommand = 32915;
+
 // A path of either kind of separator: one that was stored on another system is shown as it is.
 CString TitleOf(const CString& path) {
     return path.mid(1 + qMax(path.lastIndexOf(u'/'), path.lastIndexOf(u'\\')));
@@ -19,7 +22,7 @@ CString TitleOf(const CString& path) {
 
 } // namespace
 
-FileList::FileList(QWidget* parent) : FileList(parent, {{LoadString(130), 2}, {LoadString(131), 3}}) {}
+FileList::FileList(QWidget* parent) : FileList(parent, {{LoadString(130), 2}, {LoadString(131), 1}}) {}
 
 FileList::FileList(QWidget* parent, const std::vector<CMCColumn>& columns) : MultiColumnList(parent) {
     SetColumns(columns);
@@ -135,8 +138,9 @@ void FileList::ShowMenu(const QPoint& place) {
     auto* menu = new QMenu(this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
     menu->addAction(LoadString(2139), this, &FileList::AddWanted);
-    menu->addAction(LoadString(2140), this, &FileList::RemoveSelected)
-        ->setEnabled(!selectedItems().isEmpty());
+    QAction* remove = menu->addAction(LoadString(2140), this, &FileList::RemoveSelected);
+    remove->setObjectName(QString::number(RemoveCommand));
+    remove->setEnabled(!selectedItems().isEmpty());
     menu->popup(viewport()->mapToGlobal(place));
 }
 

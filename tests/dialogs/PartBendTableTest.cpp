@@ -7,6 +7,7 @@
 #include <QContextMenuEvent>
 #include <QElapsedTimer>
 #include <QFileDialog>
+#include <QHeaderView>
 #include <QMenu>
 
 namespace {
@@ -114,8 +115,9 @@ TEST_F(BendTables, RowsAreRemovedByButtonKeyAndMenu) {
     QApplication::sendEvent(list.viewport(), &ask);
     auto* menu = list.findChild<QMenu*>();
     ASSERT_TRUE(menu);
-    menu->actions().at(1)->trigger();
-    menu->close();
+    auto* remove = menu->findChild<QAction*>("32915");
+    ASSERT_TRUE(remove);
+    Gui::ClickAt(*menu, menu->actionGeometry(remove).center());
     Gui::Settle();
     EXPECT_EQ(Written(Tables), "2:/t/4.xls");
     Gui::Key(Hand().Get(List), Qt::Key_Delete);
@@ -123,7 +125,32 @@ TEST_F(BendTables, RowsAreRemovedByButtonKeyAndMenu) {
     EXPECT_FALSE(Hand().IsEnabled(Remove));
 }
 
+TEST_F(BendTables, TheMenuAsksForFilesAsWell) {
+    FileList& list = Hand().List(List);
+    QContextMenuEvent ask(QContextMenuEvent::Keyboard, {5, 50}, list.viewport()->mapToGlobal(QPoint(5, 50)));
+    QApplication::sendEvent(list.viewport(), &ask);
+    auto* menu = list.findChild<QMenu*>();
+    ASSERT_TRUE(menu);
+    EXPECT_FALSE(menu->findChild<QAction*>("32915")->isEnabled()); // nothing is selected
+    const Gui::Answer answer([&](QWidget& dialog) { Gui::ChooseFile(dialog, PathOf("c.xls")); });
+    Gui::ClickAt(*menu, menu->actionGeometry(menu->actions().first()).center());
+    EXPECT_TRUE(answer.WasAnswered());
+    EXPECT_EQ(Written(Tables), AllOf({"c.xls"}));
+}
+
+TEST_F(BendTables, TheListKeepsTheUsersOrder) {
+    Hand().Drop(List, {"/t/b.xls", "/t/c.xls", "/t/a.xls"});
+    QHeaderView& heading = *Hand().List(List).header();
+    for (const int column : {0, 1, 1})
+        Gui::ClickAt(*heading.viewport(), {heading.sectionViewportPosition(column) + 10, 5});
+    EXPECT_EQ(Written(Tables), "2:/t/b.xls,/t/c.xls,/t/a.xls");
+    EXPECT_EQ(Hand().List(List).topLevelItem(0)->text(0), "b.xls");
+}
+
 TEST_F(BendTables, TheCorrectionIsATableOfTheList) {
+    EXPECT_EQ(CorrectionBox().Mode(), TextEntry);
+    EXPECT_EQ(CorrectionBox().Extra(), -1);
+
     Hand().Drop(List, {"/t/1.xls", "/t/2.xls", "/t/3.xls"});
     EXPECT_EQ(WrittenCorrection(Live(), Tables), "/t/1.xls");
     EXPECT_EQ(CorrectionBox().List()->toolTip(), "/t/1.xls");
@@ -146,8 +173,11 @@ TEST_F(BendTables, TipsTellWhatIsShort) {
     const QTreeWidgetItem& row = *Hand().List(List).topLevelItem(0);
     EXPECT_EQ(row.text(0), "a.xls");
     EXPECT_EQ(row.text(1), "/a/long/way/to/a.xls");
-    EXPECT_EQ(row.toolTip(0), "/a/long/way/to/a.xls");
-    EXPECT_EQ(row.toolTip(1), "/a/long/way/to/a.xls");
+    QWidget& rows = *Hand().List(List).viewport();
+    const int y = Hand().List(List).visualItemRect(&row).center().y();
+    EXPECT_EQ(Gui::TipAt(rows, {5, y}), "/a/long/way/to/a.xls");
+    EXPECT_EQ(Gui::TipAt(rows, {rows.width() - 5, y}), "/a/long/way/to/a.xls");
+    EXPECT_EQ(Gui::TipAt(rows, {5, rows.height() - 5}), ""); // no row
 }
 
 TEST_F(BendTables, ACheckIsShownAndNothingOfItDropped) {

@@ -6,6 +6,7 @@
 #include <QContextMenuEvent>
 #include <QDragEnterEvent>
 #include <QDropEvent>
+#include <QHeaderView>
 #include <QMenu>
 #include <QMimeData>
 #include <QSignalSpy>
@@ -65,9 +66,19 @@ TEST_F(Files, ShowNamesAndPaths) {
     EXPECT_TRUE(m_changes.isEmpty());
 }
 
+TEST_F(Files, TheNamesHaveTwiceTheWidthOfThePaths) {
+    const QHeaderView& heading = *m_list.header();
+    EXPECT_NEAR(heading.sectionSize(0), 2 * heading.sectionSize(1), 2);
+    EXPECT_EQ(heading.length(), m_list.viewport()->width());
+}
+
 TEST_F(Files, KeepTheUsersOrderUnderAClickOnTheHeading) {
-    m_list.SetPaths({"/b", "/a"});
-    EXPECT_FALSE(m_list.isSortingEnabled());
+    m_list.SetPaths({"/b", "/c", "/a"});
+    for (const int column : {0, 1, 1}) {
+        const QPoint place(m_list.header()->sectionViewportPosition(column) + 10, 5);
+        QTest::mouseClick(m_list.header()->viewport(), Qt::LeftButton, {}, place);
+        EXPECT_EQ(m_list.Paths(), (CStringArray{"/b", "/c", "/a"}));
+    }
 }
 
 TEST_F(Files, AreAddedOnceWithoutRegardToCase) {
