@@ -132,6 +132,44 @@ TEST_F(ArrowPanes, BoxesAreTickedByTheSpaceKey) {
     EXPECT_EQ(Written(Arrow::Annotations, 1583), "0:");
 }
 
+TEST_F(ArrowPanes, DocumentBoxesAreTickedByTheSpaceKey) {
+    for (const Arrow::DocumentBox& document : Arrow::DocumentBoxes) {
+        QWidget& box = Hand(document.type).Get(document.box);
+        Gui::Focus(box);
+        Gui::Key(box, Qt::Key_Space);
+        EXPECT_EQ(Written(document.type, document.parameter), "3:1");
+        Gui::Key(box, Qt::Key_Space);
+        EXPECT_EQ(Written(document.type, document.parameter), "0:");
+    }
+}
+
+TEST_F(ArrowPanes, PlacementsAreCalledAsTheirValues) {
+    const Arrow::Group& group = GroupOf(1569);
+    for (std::size_t i = 0; i < group.boxes.size(); ++i) {
+        CString text;
+        CEnumEngine().GetDisplayString(KindArrowPlacement,
+                                       static_cast<unsigned long>(Arrow::ValueOf(group, i)), text);
+        EXPECT_EQ(Hand(group.type).Box(group.boxes[i]).text(), text);
+        EXPECT_FALSE(text.isEmpty());
+    }
+}
+
+TEST_F(ArrowPanes, CorrectionsAreEnteredAsNumbersPicturesOrWords) {
+    const auto expect = [this](MQC_CheckType_e type, int control, int mode, int extra) {
+        EXPECT_EQ(Hand(type).Correction(control).Mode(), mode) << type << ' ' << control;
+        EXPECT_EQ(Hand(type).Correction(control).Extra(), extra) << type << ' ' << control;
+    };
+    for (const Arrow::Size& size : Arrow::Sizes)
+        expect(Arrow::Document, size.correction, NumberEntry, -1);
+    for (const Arrow::DocumentBox& document : Arrow::DocumentBoxes)
+        expect(document.type, document.correction, TextEntry, -1);
+    for (const Arrow::Group& group : Arrow::Groups)
+        if (group.parameter == 1569)
+            expect(group.type, group.correction, TextEntry, -1);
+        else
+            expect(group.type, group.correction, ImageEntry, 0);
+}
+
 TEST_F(ArrowPanes, TheStyleOfTheDocumentIsWrittenAloneHoweverTheGreyBoxesStand) {
     const ArrowHand hand = Hand(Arrow::Dimensions);
     for (const int box : {1112, 1087, 1122})

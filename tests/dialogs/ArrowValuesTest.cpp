@@ -113,12 +113,13 @@ TEST_F(ArrowValues, BoundsOfZeroFromAFileBecomeOne) {
     EXPECT_EQ(Written(Arrow::Document, 1557), "5:0.5");
 }
 
-TEST_F(ArrowValues, FiftyValuesAreWritten) {
+TEST_F(ArrowValues, FiftyValuesAreWrittenAndToldByTheTip) {
     CStringArray values;
     for (int i = 1; i <= 50; ++i)
         values.append(QString::number(i) + ".25");
     Hand(Arrow::Document).Enter(Arrow::Sizes[0], Arrow::OneOf, values.join(u','));
     EXPECT_EQ(Written(Arrow::Document, 1552), "2:" + values.join(u','));
+    EXPECT_EQ(Gui::TipAt(Hand(Arrow::Document).Get(1003), {5, 5}), "<qt>" + values.join(u','));
 }
 
 TEST_F(ArrowValues, ALoadedCheckReplacesAllThatWasShown) {

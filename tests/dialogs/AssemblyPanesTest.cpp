@@ -2,13 +2,14 @@
 #include "CheckRoom.h"
 
 #include "editing/ExtRichEditCtrl.h"
-#include "engines/UnitText.h"
+#include "engines/ActiveUnit.h"
+#include "engines/EnumEngine.h"
+#include "engines/ParameterKinds.h"
 #include "model/ParameterValue.h"
 #include "support/FilledStandard.h"
 #include "support/Language.h"
 #include "support/Messages.h"
 
-#include <QHelpEvent>
 #include <algorithm>
 #include <set>
 
@@ -82,6 +83,32 @@ TEST(AssemblyPanes, KeysOfTheLabelsDifferInEachLanguage) {
             EXPECT_EQ(static_cast<std::size_t>(keys.size()), different.size())
                 << name << ' ' << type << ' ' << keys.toStdString();
         }
+    }
+}
+
+TEST(AssemblyPanes, BoxesAreCalledAsTheirValues) {
+    struct Box {
+        MQC_CheckType_e type;
+        int control;
+        int kind;
+        unsigned long value;
+    };
+    constexpr Box boxes[] = {
+        {Interferences, 1281, KindInterferenceMode, 0},    {Interferences, 1515, KindInterferenceMode, 1},
+        {Interferences, 1516, KindInterferenceMode, 2},    {ExternalReferences, 1140, KindReferenceState, 0},
+        {ExternalReferences, 1144, KindReferenceState, 5}, {ExternalReferences, 1142, KindReferenceState, 3},
+        {ExternalReferences, 1141, KindReferenceState, 1}, {ExternalReferences, 1143, KindReferenceState, 4},
+        {FileLocations, 1329, KindFileLocationRule, 0},    {FileLocations, 1330, KindFileLocationRule, 1},
+        {FileLocations, 1331, KindFileLocationRule, 2}};
+    PaneRoom room;
+    room.Show();
+    for (const MQC_CheckType_e type : {Interferences, ExternalReferences, FileLocations})
+        room.Add(type);
+    for (const Box& box : boxes) {
+        CString text;
+        CEnumEngine().GetDisplayString(box.kind, box.value, text);
+        EXPECT_EQ(CheckHand(*room.Pane(box.type)).Get<QAbstractButton>(box.control).text(), text);
+        EXPECT_FALSE(text.isEmpty());
     }
 }
 
@@ -199,11 +226,35 @@ TEST_F(InterferencePane, FiftyValuesAreToldByTheTip) {
         values.append(QString::number(i) + ".5");
     Enter(OneOf, values.join(u','));
     EXPECT_EQ(Live().GetDoubleParameter(1754)->Values.Count, 50);
-    QLineEdit& field = Hand().Field(Value);
-    QHelpEvent ask(QEvent::ToolTip, {5, 5}, field.mapToGlobal(QPoint(5, 5)));
-    QApplication::sendEvent(&field, &ask);
-    EXPECT_TRUE(field.toolTip().contains("1.5,2.5,3.5"));
-    EXPECT_TRUE(field.toolTip().contains("50.5"));
+    EXPECT_EQ(Gui::TipAt(Hand().Get(Value), {5, 5}), "<qt>" + values.join(u','));
+}
+
+TEST_F(FixedPane, StartsWithNothingRequired) {
+    EXPECT_EQ(Gui::RowsOf(Hand().Combo(Comparison)),
+              (CStringArray{LoadString(1632), "=", "<", ">", ">=", "<=", LoadString(1657), LoadString(1658),
+                            LoadString(1659)}));
+    EXPECT_FALSE(Hand().IsEnabled(Value));
+    EXPECT_EQ(Written(1586), "0:");
+}
+
+TEST_F(FixedPane, LeavingCompletesTheText) {
+    Hand().Choose(Comparison, Between);
+    Hand().Type(Value, "3,");
+    Gui::Focus(Hand().Get(1249));
+    EXPECT_EQ(Hand().Field(Value).text(), "3,3");
+    EXPECT_EQ(Written(1586), "1:3,3");
+    Hand().Type(Value, "");
+    Gui::Focus(Hand().Get(1249));
+    EXPECT_EQ(Hand().Combo(Comparison).currentIndex(), 0);
+    EXPECT_EQ(Written(1586), "0:");
+}
+
+TEST_F(FixedPane, NumbersAreNoLengths) {
+    const Messages messages;
+    Hand().Choose(Comparison, Equal);
+    Hand().Type(Value, "1000001");
+    EXPECT_EQ(messages.texts, CStringArray{LoadString(2043)});
+    EXPECT_EQ(Written(1586), "3:100000");
 }
 
 TEST_F(FixedPane, EachComparisonIsWrittenWithItsWholeNumbers) {
@@ -271,6 +322,25 @@ TEST_F(MatesPane, AMaximumWithoutANumberIsZero) {
     EXPECT_TRUE(Hand().IsEnabled(Maximum));
     EXPECT_TRUE(Hand().IsEnabled(Unit));
     EXPECT_EQ(Hand().Field(Maximum).text(), "");
+    EXPECT_EQ(Written(32949), "8:0");
+}
+
+TEST_F(MatesPane, TheModeIsChosenByTheArrowKeys) {
+    Gui::Focus(Hand().Get(NotAllowed));
+    Gui::Key(Hand().Get(NotAllowed), Qt::Key_Down);
+    EXPECT_EQ(Written(32948), "13:Yes");
+    Gui::Key(Hand().Get(Allowed), Qt::Key_Down);
+    EXPECT_EQ(Written(32949), "8:0");
+    EXPECT_TRUE(Hand().IsEnabled(Maximum));
+}
+
+TEST_F(MatesPane, AMaximumIsALength) {
+    const Messages messages;
+    SetActiveLengthUnitProvider([] { return 0; });
+    Hand().Click(UpTo);
+    Hand().Type(Maximum, "1000001");
+    SetActiveLengthUnitProvider({});
+    EXPECT_EQ(messages.texts, CStringArray{LoadString(2191)});
     EXPECT_EQ(Written(32949), "8:0");
 }
 

@@ -10,7 +10,6 @@
 
 #include <QDir>
 #include <QElapsedTimer>
-#include <QHelpEvent>
 #include <set>
 
 namespace {
@@ -142,6 +141,41 @@ TEST_F(Locations, AFolderThatIsListedIsRefused) {
     Hand().Drop(List, {folder.Path("one") + '/'});
     EXPECT_EQ(messages.texts.size(), 2);
     EXPECT_EQ(Entries(), "0:one:1");
+}
+
+TEST_F(Locations, ARefusedFolderChangesNothing) {
+    Pick("one");
+    Pick("two");
+    Hand().List(List).clearSelection();
+    Hand().ClickRow(List, 1);
+    const int before = room.standard.GetHistoryIndex();
+    const Messages messages;
+    Pick("one");
+    EXPECT_EQ(messages.texts.size(), 1);
+    EXPECT_EQ(room.standard.GetHistoryIndex(), before);
+    EXPECT_EQ(Hand().List(List).SelectedRows(), QList<int>{1});
+}
+
+TEST_F(Locations, AnAddedFolderIsInSightAndAloneSelected) {
+    CCheckManager check(FileLocations);
+    CStringArray paths;
+    for (int i = 0; i < 100; ++i)
+        paths.append(QString("/a/%1").arg(i));
+    AddEntry(check, 0, paths, true);
+    Pane().LoadCheck(check);
+    FileList& list = Hand().List(List);
+    Hand().ClickRow(List, 3);
+    Pick("one");
+    EXPECT_EQ(list.SelectedRows(), QList<int>{100});
+    EXPECT_TRUE(list.viewport()->rect().contains(list.visualItemRect(list.topLevelItem(100))));
+}
+
+TEST_F(Locations, RemovingTheLastRowSelectsTheOneBefore) {
+    Drop({"one", "two", "three"});
+    Gui::Key(Hand().Get(List), Qt::Key_Delete);
+    EXPECT_EQ(Entries(), "0:one,two:1");
+    EXPECT_EQ(Hand().List(List).SelectedRows(), QList<int>{1});
+    EXPECT_EQ(Buttons(), "110");
 }
 
 TEST_F(Locations, CaseMakesNoOtherFolder) {
@@ -308,7 +342,10 @@ TEST_F(Locations, TipsTellWhatButtonsDoAndWhereFoldersAre) {
     EXPECT_EQ(Hand().Get(Down).toolTip(), LoadString(2466));
     EXPECT_EQ(Hand().Get(List).toolTip(), LoadString(2467));
     Drop({"one"});
-    EXPECT_EQ(Hand().List(List).topLevelItem(0)->toolTip(0), folder.Path("one"));
+    FileList& list = Hand().List(List);
+    const int y = list.visualItemRect(list.topLevelItem(0)).center().y();
+    EXPECT_EQ(Gui::TipAt(*list.viewport(), {5, y}), folder.Path("one"));
+    EXPECT_EQ(Gui::TipAt(*list.viewport(), {5, list.viewport()->height() - 5}), LoadString(2467));
 }
 
 TEST_F(Locations, AThousandStayQuick) {

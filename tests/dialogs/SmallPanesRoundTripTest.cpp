@@ -5,6 +5,7 @@
 #include "editing/RulewardOptions.h"
 #include "engines/EnumEngine.h"
 #include "engines/ParameterKinds.h"
+#include "engines/UnitConvertor.h"
 #include "model/CheckManager.h"
 #include "model/ParameterValue.h"
 #include "support/FilledStandard.h"
@@ -18,6 +19,7 @@
 #include <algorithm>
 #include <map>
 #include <set>
+#include <tuple>
 
 namespace {
 
@@ -297,6 +299,60 @@ TEST(SmallPanesRoundTrip, TheToolSavesAndShowsAgainWhatWasEntered) {
     EXPECT_EQ(CheckHand(*tool.Pane(Interferences)).Field(1081).text(), "0.5 , 7");
     EXPECT_EQ(CheckHand(*tool.Pane(Mates)).Field(1002).text(), "0.125");
     EXPECT_TRUE(CheckHand(*tool.Pane(ExternalReferences)).IsChecked(1144));
+}
+
+TEST(SmallPanesRoundTrip, DeleteInAListKeepsTheCheck) {
+    GuiTool tool;
+    tool.Do(Command::ShowAllChecks);
+    const TestFolder folder;
+    folder.Put("a.xls", "x");
+    for (const auto& [type, list, path] :
+         {std::tuple(BendTable, 1272, folder.Path("a.xls")), {FileLocations, 1274, folder.Path()}}) {
+        tool.PressCheck(type);
+        const CheckHand hand(*tool.Pane(type));
+        ASSERT_TRUE(hand.Drop(list, {path}));
+        hand.ClickRow(list, 0);
+        Gui::Key(hand.Get(list), Qt::Key_Delete);
+        EXPECT_EQ(hand.List(list).topLevelItemCount(), 0);
+        CCheck* live = nullptr;
+        tool.Standard().FindLiveByType(type, live);
+        EXPECT_TRUE(live) << type;
+    }
+}
+
+// Each unit in turn from millimetres and back, by what the check holds and the field shows.
+TEST(SmallPanesRoundTrip, VolumesAndMisalignmentsFollowAllUnitsAndComeBack) {
+    GuiTool tool;
+    tool.Do(Command::ShowAllChecks);
+    for (const MQC_CheckType_e type : {Interferences, Mates})
+        tool.PressCheck(type);
+    tool.View().ApplyUnits(0, 0);
+    const CheckHand volume(*tool.Pane(Interferences)), mates(*tool.Pane(Mates));
+    volume.Choose(1080, Equal);
+    volume.Type(1081, "1000000");
+    mates.Click(32942);
+    mates.Type(1002, "254");
+    const auto held = [&tool](MQC_CheckType_e type, unsigned id) {
+        CCheck* live = nullptr;
+        tool.Standard().FindLiveByType(type, live);
+        return live ? live->GetDoubleParameter(id)->Values[0] : 0.0;
+    };
+    const auto expect = [&](int unit) {
+        double length = CUnitConvertor().Convert(254, DimensionLength, 0, static_cast<unsigned long>(unit));
+        double cube = 1'000'000;
+        for (int i = 0; i < 3; ++i)
+            cube = CUnitConvertor().Convert(cube, DimensionLength, 0, static_cast<unsigned long>(unit));
+        for (const double shown : {held(Mates, 32949), mates.Field(1002).text().toDouble()})
+            EXPECT_NEAR(shown, length, 1e-6 * length) << unit;
+        for (const double shown : {held(Interferences, 1754), volume.Field(1081).text().toDouble()})
+            EXPECT_NEAR(shown, cube, 1e-6 * cube) << unit;
+    };
+    for (int unit = 1; unit <= 10; ++unit) {
+        tool.View().ApplyUnits(unit, 0);
+        expect(unit);
+        tool.View().ApplyUnits(0, 0);
+        expect(0);
+    }
 }
 
 TEST(SmallPanesRoundTrip, AnInterferenceVolumeFollowsTheUnitWithItsCube) {
