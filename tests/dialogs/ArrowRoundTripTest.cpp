@@ -165,6 +165,20 @@ TEST(ArrowRoundTrip, ACommitWithoutAChangeKeepsEveryValue) {
     }
 }
 
+TEST(ArrowRoundTrip, ACopyOfACheckArrivesWhole) {
+    for (unsigned seed = 1; seed <= 10; ++seed) {
+        PaneRoom target;
+        ArrowFillings fillings(seed);
+        target.Show();
+        for (const MQC_CheckType_e type : Arrow::All) {
+            const auto source = fillings.Check(type);
+            target.GetChecksPage().AddCheck(type, source.get());
+            ASSERT_TRUE(target.Live(type)) << type;
+            EXPECT_EQ(TextOfCheck(*target.Live(type)), TextOfCheck(*source)) << type;
+        }
+    }
+}
+
 TEST(ArrowRoundTrip, AFileShowsInAFreshPaneAsItWasWritten) {
     PaneRoom first, second;
     ArrowFillings fillings(2);

@@ -238,6 +238,20 @@ TEST(SmallPanesRoundTrip, ACommitWithoutAChangeKeepsEveryValue) {
     }
 }
 
+TEST(SmallPanesRoundTrip, ACopyOfACheckArrivesWhole) {
+    for (unsigned seed = 1; seed <= 10; ++seed) {
+        PaneRoom source, target;
+        SmallFillings fillings(seed);
+        FillStandard(source.standard, fillings);
+        target.Show();
+        for (const MQC_CheckType_e type : SmallTypes) {
+            target.GetChecksPage().AddCheck(type, source.Live(type));
+            ASSERT_TRUE(target.Live(type)) << type;
+            EXPECT_EQ(ContentOf(*target.Live(type)), ContentOf(*source.Live(type))) << type;
+        }
+    }
+}
+
 TEST(SmallPanesRoundTrip, TheCorrectionIsATableAfterEverySingleChange) {
     PaneRoom room;
     room.Show();
