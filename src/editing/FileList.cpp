@@ -127,7 +127,9 @@ void FileList::MoveSelected(int step) {
 }
 
 void FileList::keyPressEvent(QKeyEvent* event) {
-    if (event->key() == Qt::Key_Delete && event->modifiers() == Qt::NoModifier)
+    // Delete stands on the number pad as well.
+    const Qt::KeyboardModifiers held = event->modifiers() & ~Qt::KeypadModifier;
+    if (event->key() == Qt::Key_Delete && held == Qt::NoModifier)
         RemoveSelected();
     else
         MultiColumnList::keyPressEvent(event);

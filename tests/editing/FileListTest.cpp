@@ -119,6 +119,16 @@ TEST_F(Files, DeleteRemovesAllThatIsSelected) {
     EXPECT_EQ(m_changes.size(), 3);
 }
 
+TEST_F(Files, DeleteOfTheNumberPadRemovesAndWithShiftDoesNot) {
+    m_list.SetPaths({"/0", "/1"});
+    m_list.setFocus();
+    Select({0});
+    QTest::keyClick(&m_list, Qt::Key_Delete, Qt::ShiftModifier);
+    EXPECT_EQ(m_list.topLevelItemCount(), 2);
+    QTest::keyClick(&m_list, Qt::Key_Delete, Qt::KeypadModifier);
+    EXPECT_EQ(m_list.Paths(), CStringArray{"/1"});
+}
+
 TEST_F(Files, MoveWithTheirSelection) {
     m_list.SetPaths({"/0", "/1", "/2", "/3"});
     Select({1, 2});
