@@ -26,7 +26,8 @@ bool IsKnownName(const QByteArray& name) {
         if (name == known)
             return true;
     for (const char* family : {"ISO-8859-", "WINDOWS-125"}) {
-        const QByteArray number = name.startsWith(family) ? name.mid(qstrlen(family)) : QByteArray();
+        const QByteArray number =
+            name.startsWith(family) ? name.mid(static_cast<qsizetype>(qstrlen(family))) : QByteArray();
         if (number.size() == 1 || number.size() == 2)
             return std::all_of(number.begin(), number.end(), [](char c) { return c >= '0' && c <= '9'; });
     }
