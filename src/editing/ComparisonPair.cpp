@@ -1,5 +1,6 @@
 #include "editing/ComparisonPair.h"
 
+#include "editing/TextTip.h"
 #include "engines/TextServices.h"
 #include "engines/TrailingZeros.h"
 #include "engines/UIUtilities.h"
@@ -25,11 +26,6 @@ CString ListText(const CGrowArray<double>& values) {
         StripTrailingZeros(text);
     }
     return text;
-}
-
-// As rich text, for only that is wrapped where it is long. Without a text there is no tip.
-CString TipOf(const CString& text) {
-    return text.isEmpty() ? CString() : text.toHtmlEscaped().prepend("<qt>");
 }
 
 // Both bounds of a range: a single one is the lower and the upper.
@@ -145,7 +141,7 @@ bool ComparisonPair::eventFilter(QObject* watched, QEvent* event) {
     if (isValue && event->type() == QEvent::FocusOut && IsLeft(*event))
         OnValueCompleted();
     else if (isValue && event->type() == QEvent::ToolTip)
-        m_value->setToolTip(TipOf(m_value->text()));
+        TellTextByTip(*m_value);
     else if (!isValue && event->type() == QEvent::KeyPress)
         m_isByKey = !OpensList(static_cast<QKeyEvent&>(*event));
     else if (!isValue && event->type() == QEvent::MouseButtonPress)

@@ -1,12 +1,14 @@
 #include "editing/ValueField.h"
 
 #include "editing/ExtRichEditCtrl.h"
+#include "editing/TextTip.h"
 #include "engines/TextServices.h"
 #include "engines/TrailingZeros.h"
 #include "engines/UIUtilities.h"
 #include "engines/ValidateEngine.h"
 #include "platform/Format.h"
 
+#include <QEvent>
 #include <QScopedValueRollback>
 
 namespace {
@@ -21,6 +23,7 @@ ValueField::ValueField(CExtRichEditCtrl* field, unsigned op, const CString& name
         return;
     field->SetFilter(NumberListCharacters, false);
     field->setAccessibleName(name);
+    field->installEventFilter(this);
     connect(field, &QLineEdit::textEdited, this, &ValueField::OnEdited);
 }
 
@@ -52,6 +55,12 @@ void ValueField::Store(CGrowArray<double>& values) const {
 void ValueField::SetEnabled(bool isEnabled) {
     if (m_field)
         m_field->setEnabled(isEnabled);
+}
+
+bool ValueField::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::ToolTip)
+        TellTextByTip(*m_field);
+    return QObject::eventFilter(watched, event);
 }
 
 void ValueField::OnEdited() {

@@ -1,4 +1,5 @@
-// A box of one or several numbers with commas between them, which is watched while the user types.
+// A box of one or several numbers with commas between them, which is watched while the user types. Its tip
+// tells them all.
 #pragma once
 
 #include "model/Parameter.h"
@@ -28,6 +29,9 @@ public:
 
 Q_SIGNALS:
     void Changed(); // by the user; the field reads as it was repaired
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void OnEdited();

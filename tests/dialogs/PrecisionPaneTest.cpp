@@ -234,6 +234,16 @@ TEST_F(Gaps, ACheckIsShownToTenDecimals) {
     EXPECT_EQ(Hand().Field(Extension).text(), "");
 }
 
+TEST_F(Gaps, FiftyValuesAreToldByTheTip) {
+    CStringArray values;
+    for (int i = 1; i <= 50; ++i)
+        values.append(QString::number(i) + ".5");
+    Hand().Enter(Distance, values.join(u','));
+    EXPECT_EQ(Live().GetDoubleParameter(2293)->Values.Count, 50);
+    EXPECT_EQ(Gui::TipAt(Hand().Get(Distance), {5, 5}), "<qt>" + values.join(u','));
+    EXPECT_EQ(Gui::TipAt(Hand().Get(Extension), {5, 5}), "");
+}
+
 // Any comparison is shown as an equality, and beyond ten decimals nothing is.
 TEST_F(Gaps, WhatHasNoControlIsDropped) {
     CCheck check(314, 0, 0, 0, 1);

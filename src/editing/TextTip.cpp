@@ -1,0 +1,9 @@
+#include "editing/TextTip.h"
+
+#include <QLineEdit>
+
+// As rich text, for only that is wrapped where it is long. Without a text there is no tip.
+void TellTextByTip(QLineEdit& field) {
+    const QString text = field.text();
+    field.setToolTip(text.isEmpty() ? text : text.toHtmlEscaped().prepend("<qt>"));
+}
