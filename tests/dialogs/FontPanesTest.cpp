@@ -79,6 +79,8 @@ TEST_F(FontPane, StartsWithHeightsInUnitsAndNothingRequired) {
         EXPECT_TRUE(Hand().IsEnabled(enabled)) << enabled;
     for (const int disabled : {1002, 1004, 1006, 1138})
         EXPECT_FALSE(Hand().IsEnabled(disabled)) << disabled;
+    for (const int first : {1001, 1003, 1006, 1007, 1008, 1138})
+        EXPECT_EQ(Hand().Combo(first).currentIndex(), 0) << first;
     for (unsigned id = Font::Name; id <= Font::PointHeight; ++id)
         EXPECT_EQ(Written(id), "0:") << id;
 }
@@ -90,6 +92,7 @@ TEST_F(FontPane, ShowsTheUnitBesideEachHeight) {
 
 TEST_F(FontPane, UnitsOfCorrectionsStandBesideTheirFields) {
     room.Add(Font::Dimensions);
+    room.Add(Font::Annotations);
     const auto labelOf = [this](MQC_CheckType_e type, int correction) {
         const FontHand hand(*room.Pane(type));
         for (const auto& entry : room.units)
@@ -99,10 +102,12 @@ TEST_F(FontPane, UnitsOfCorrectionsStandBesideTheirFields) {
     };
     EXPECT_EQ(labelOf(Font::Notes, 1300), 1213);
     EXPECT_EQ(labelOf(Font::Notes, 1301), 1212);
-    EXPECT_EQ(labelOf(Font::Dimensions, 1301), 1212);
-    EXPECT_EQ(labelOf(Font::Dimensions, 1302), 1213);
+    for (const MQC_CheckType_e type : {Font::Dimensions, Font::Annotations}) {
+        EXPECT_EQ(labelOf(type, 1301), 1212);
+        EXPECT_EQ(labelOf(type, 1302), 1213);
+    }
     // And on the row of the field, whatever the number.
-    for (const MQC_CheckType_e type : {Font::Notes, Font::Dimensions})
+    for (const MQC_CheckType_e type : {Font::Notes, Font::Dimensions, Font::Annotations})
         for (const auto& entry : room.units)
             if (const FontHand hand(*room.Pane(type)); room.Pane(type)->isAncestorOf(entry->LabelControl)) {
                 const auto middle = [&](const QWidget& widget) {

@@ -110,3 +110,13 @@ TEST_F(PicturePanes, TheCriticalityIsWrittenWithTheRest) {
         EXPECT_TRUE(WrittenOf(row).startsWith("2:")) << row.type;
     }
 }
+
+// Its commit before saving is left out: each change has been written already.
+TEST_F(PicturePanes, TheDisplayModesWriteTheirCriticalityOnlyWhenItIsChosen) {
+    room.Pane(312)->Criticality = 2;
+    room.Pane(312)->OnCriticalityChanged();
+    EXPECT_EQ(room.Live(312)->Criticality, 1u);
+    room.Pane(123)->Criticality = 2;
+    room.Pane(123)->OnCriticalityChanged();
+    EXPECT_EQ(room.Live(123)->Criticality, 2u);
+}
