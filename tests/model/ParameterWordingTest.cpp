@@ -81,6 +81,14 @@ TEST(ParameterWording, ValuesOfAList) {
     EXPECT_EQ(Value({DataLong, KindFontStyle, OpNoneOf, {"1"}}), "none of Regular");
 }
 
+// The list of angle units names two of the four; a pane offers all.
+TEST(ParameterWording, MinutesAndSecondsOfAnglesHaveNoText) {
+    EXPECT_EQ(Value({DataLong, KindAngleUnit, OpOneOf, {"0", "3"}}), "Degrees , Radians");
+    EXPECT_EQ(Value({DataLong, KindAngleUnit, OpOneOf, {"1"}}), "");
+    EXPECT_EQ(Value({DataLong, KindAngleUnit, OpOneOf, {"0", "2"}}), "Degrees , ");
+    EXPECT_EQ(Word({DataLong, KindAngleUnit, OpOneOf, {"0", "1"}, "1"}).correction, "");
+}
+
 TEST(ParameterWording, YesAndNoKeepTheirOperator) {
     EXPECT_EQ(Value({DataBool, KindPlain, OpEqual, {"1"}}), "= 1");
     EXPECT_EQ(Value({DataBool, KindBoolean, OpEqual, {"1"}}), "= Yes");
