@@ -1,5 +1,6 @@
 #include "dialogs/MergeDlg.h"
 
+#include "editing/TextTip.h"
 #include "files/Merge.h"
 #include "platform/LanguageLibrary.h"
 #include "platform/Message.h"
@@ -112,7 +113,7 @@ void CMergeDlg::AddFiles(const CStringArray& paths) {
             continue;
         const CString shown = QDir::toNativeSeparators(path);
         auto* item = new QTreeWidgetItem(m_list, {QFileInfo(path).fileName(), shown});
-        item->setToolTip(PathColumn, shown);
+        item->setToolTip(PathColumn, PlainTip(shown));
         m_list->setCurrentItem(item); // makes it the only selected one
         m_list->scrollToItem(item);
     }
@@ -162,8 +163,8 @@ void CMergeDlg::Move(int step, unsigned severalText, unsigned noneText) {
         item.setText(column, neighbour->text(column));
         neighbour->setText(column, text);
     }
-    item.setToolTip(PathColumn, item.text(PathColumn));
-    neighbour->setToolTip(PathColumn, neighbour->text(PathColumn));
+    item.setToolTip(PathColumn, PlainTip(item.text(PathColumn)));
+    neighbour->setToolTip(PathColumn, PlainTip(neighbour->text(PathColumn)));
     m_list->setCurrentItem(neighbour);
     m_list->scrollToItem(neighbour);
 }

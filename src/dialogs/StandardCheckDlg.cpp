@@ -2,6 +2,7 @@
 
 #include "editing/ExtRichEditCtrl.h"
 #include "editing/MyStatic.h"
+#include "editing/TextTip.h"
 #include "platform/LanguageLibrary.h"
 
 #include <QAbstractButton>
@@ -90,7 +91,7 @@ void CStandardCheckDlg::UpdateCustomEntry() {
     auto* name = GetDlgItem<QWidget>(NameField);
     if (!name)
         return;
-    name->setToolTip(m_customName.left(LongestTooltip));
+    name->setToolTip(PlainTip(m_customName.left(LongestTooltip)));
     name->setEnabled(IsCustomTicked());
     if (IsCustomTicked())
         name->setFocus(Qt::OtherFocusReason);

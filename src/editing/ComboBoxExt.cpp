@@ -1,5 +1,6 @@
 #include "editing/ComboBoxExt.h"
 
+#include "editing/TextTip.h"
 #include "platform/widgets/Look.h"
 
 #include <QAbstractItemView>
@@ -27,14 +28,14 @@ CComboBoxExt::CComboBoxExt(QWidget* parent) : QComboBox(parent) {
 void CComboBoxExt::AddRow(const CString& text, unsigned bitmap) {
     addItem(bitmap ? Look::IconOf(bitmap) : QIcon(), text);
     setItemData(count() - 1, bitmap, BitmapRole);
-    setItemData(count() - 1, text, Qt::ToolTipRole);
+    setItemData(count() - 1, PlainTip(text), Qt::ToolTipRole);
     if (bitmap)
         setIconSize(iconSize().expandedTo(Look::BitmapSizeOf(bitmap)));
 }
 
 // The row may be cut in a narrow column; its text is told in full. What was typed need not be a row.
 void CComboBoxExt::ShowTooltip() {
-    setToolTip(isEditable() ? CString() : currentText());
+    setToolTip(isEditable() ? CString() : PlainTip(currentText()));
 }
 
 int CComboBoxExt::PopupWidth() const {

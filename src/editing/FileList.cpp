@@ -1,5 +1,6 @@
 #include "editing/FileList.h"
 
+#include "editing/TextTip.h"
 #include "platform/LanguageLibrary.h"
 
 #include <QAction>
@@ -48,7 +49,7 @@ void FileList::AddPath(const CString& path) {
     row.Cells.push_back({path});
     QTreeWidgetItem* item = AddRow(row);
     for (int column = 0; column < columnCount(); ++column)
-        item->setToolTip(column, path);
+        item->setToolTip(column, PlainTip(path));
 }
 
 void FileList::SetPaths(const CStringArray& paths) {

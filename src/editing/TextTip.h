@@ -1,7 +1,14 @@
-// The tip of a field whose text may be longer than the field.
+// Tips that show a text as it is.
 #pragma once
+
+#include "platform/Text.h"
 
 class QLineEdit;
 
-// Makes the whole text the tip. To be called when a tip is asked for.
+// A tip with just these characters: a name or path from a file must not be taken for markup, which could also
+// name a picture to be loaded.
+CString PlainTip(const CString& text);
+
+// Makes the whole text of a field, which may be longer than the field, its tip. To be called when a tip is
+// asked for.
 void TellTextByTip(QLineEdit& field);

@@ -10,6 +10,7 @@
 #include <QMenu>
 #include <QMimeData>
 #include <QSignalSpy>
+#include <QTextDocument>
 #include <QUrl>
 #include <gtest/gtest.h>
 
@@ -182,4 +183,13 @@ TEST(MultiColumnList, ShowsRowsUnderTheirGroups) {
     EXPECT_EQ(list.RowOf(*row).TextAt(2), "");
     EXPECT_EQ(list.RowOf(*row).TextAt(3), "");
     EXPECT_EQ(list.AddRow({{{"single"}}})->parent(), nullptr);
+}
+
+TEST_F(Files, APathIsNeverTakenForMarkup) {
+    const CString path = "/rules/<img src=\"/etc/hostname\"><b>bold</b>.btl";
+    m_list.SetPaths({path});
+    QTextDocument shown;
+    shown.setHtml(m_list.topLevelItem(0)->toolTip(0));
+    EXPECT_EQ(shown.toPlainText(), path);
+    EXPECT_FALSE(m_list.topLevelItem(0)->toolTip(0).contains("<img"));
 }

@@ -106,14 +106,15 @@ private:
         }
     }
 
-    // Operator and values; nothing where there is no value, since a save takes such a comparison out of
-    // force. A figure in the field of a pane is converted by itself when the unit changes, and may differ
-    // from the check's in the last digits.
+    // Operator and values of what is in force: without values a save takes a comparison out of force. A
+    // figure in the field of a pane is converted by itself when the unit changes, and may differ from the
+    // check's in the last digits.
     static CString TextOf(const CParameterEntry& entry) {
         CString text;
         VisitParameter(entry, [&text](const auto& parameter) {
-            if (parameter.Values.Count > 0)
-                text = CString::number(parameter.Operator) + ":";
+            if (parameter.Operator == OpNone || parameter.Values.Count == 0)
+                return;
+            text = CString::number(parameter.Operator) + ":";
             for (const auto& value : parameter.Values) {
                 using Value = std::decay_t<decltype(value)>;
                 if constexpr (std::is_same_v<Value, double>)
