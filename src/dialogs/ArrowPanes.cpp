@@ -1,5 +1,6 @@
 #include "dialogs/ArrowPanes.h"
 
+#include "editing/ComparisonTexts.h"
 #include "editing/CorrectionChoices.h"
 #include "editing/ExtRichEditCtrl.h"
 #include "engines/ParameterKinds.h"
@@ -17,7 +18,6 @@ namespace {
 constexpr int ArrowStyles[] = {9, 1, 8, 3, 6, 10, 0, 4, 7, 2, 5};
 constexpr int Placements[] = {0, 1, 2};
 
-constexpr char NumberListCharacters[] = "1234567890,.";
 const QList<unsigned> LengthOperators = {OpNone,    OpEqual,   OpBelow, OpAbove, OpAtMost,
                                          OpAtLeast, OpBetween, OpOneOf, OpNoneOf};
 

@@ -1,6 +1,7 @@
 #include "dialogs/AssemblyPanes.h"
 
 #include "editing/ComparisonPair.h"
+#include "editing/ComparisonTexts.h"
 #include "editing/ExtRichEditCtrl.h"
 #include "editing/ValueField.h"
 #include "engines/UnitConvertor.h"
@@ -38,7 +39,7 @@ constexpr unsigned ModeParameters[] = {MatesNotAllowed, MatesAllowed, MatesMaxim
 
 const QList<unsigned> Operators = {OpNone,   OpEqual,   OpBelow, OpAbove, OpAtLeast,
                                    OpAtMost, OpBetween, OpOneOf, OpNoneOf};
-constexpr char WholeNumbers[] = "1234567890,", Numbers[] = "1234567890,.", OneNumber[] = "1234567890.";
+constexpr char WholeNumbers[] = "1234567890,", OneNumber[] = "1234567890.";
 
 constexpr unsigned CubicPower = 2;
 // What the checker looks for in texts of the mates check: words of no language.
@@ -103,7 +104,7 @@ void CComparisonPane::StoreControls(CCheck& check) const {
 }
 
 CAssemblyInterferenceDlg::CAssemblyInterferenceDlg(EditingHost& host)
-    : CComparisonPane(host, {1573, 1406, 1753, 1506}, Volume, Numbers) {}
+    : CComparisonPane(host, {1573, 1406, 1753, 1506}, Volume, NumberListCharacters) {}
 
 void CAssemblyInterferenceDlg::PrepareControls() {
     CComparisonPane::PrepareControls();

@@ -151,7 +151,8 @@ void CFileLocationDlg::LoadEntry(const CCheck& entry) {
         for (const CString* folder : folders->Values)
             if (folder)
                 known->Folders.append(*folder);
-    if (const auto* subfolders = entry.GetBoolParameter(EntrySubfolders); subfolders->Values.Count > 0)
+    const auto* subfolders = entry.GetBoolParameter(EntrySubfolders);
+    if (subfolders && subfolders->Values.Count > 0)
         known->IncludeSubfolders = subfolders->Values[0];
 }
 

@@ -1,5 +1,6 @@
 #include "dialogs/FontControls.h"
 
+#include "editing/ComparisonTexts.h"
 #include "editing/CorrectionChoices.h"
 #include "editing/ExtRichEditCtrl.h"
 #include "editing/FontList.h"
@@ -43,11 +44,9 @@ enum Parameter : unsigned {
 };
 
 constexpr unsigned Height = FontControls::HeightParameter, Spacing = FontControls::SpacingParameter;
-constexpr unsigned ComparisonOf = 62120; // %1 the parameter
 constexpr unsigned AnyText = 1632;
 constexpr int FontStyleCount = 4; // codes from 1
 constexpr int Sizes[] = {8, 9, 10, 11, 12, 14, 16, 18, 20, 22, 24, 26, 28, 36, 48, 72};
-constexpr char NumberListCharacters[] = "1234567890,.";
 
 constexpr std::pair<int, unsigned> YesNoBoxes[] = {{StrikeoutBox, Strikeout}, {UnderlineBox, Underline}};
 
@@ -63,12 +62,6 @@ constexpr FontCorrection OverridingCorrections[] = {
 constexpr unsigned PointOperators[] = {OpNone, OpEqual, OpBelow, OpAbove, OpAtMost, OpAtLeast};
 const QList<unsigned> LengthOperators = {OpNone,    OpEqual,   OpBelow, OpAbove, OpAtMost,
                                          OpAtLeast, OpBetween, OpOneOf, OpNoneOf};
-
-CString OperatorText(unsigned code) {
-    CString text;
-    CUIUtilities().OperatorText(static_cast<int>(code), text);
-    return text;
-}
 
 CString StyleText(long code) {
     CString text;
@@ -140,7 +133,7 @@ void FontControls::SetNames() {
     for (const auto& [number, name] : names)
         Get<QWidget>(number).setAccessibleName(LoadString(name));
     Get<QComboBox>(PointSizes).lineEdit()->setAccessibleName(LoadString(Points));
-    Get<QWidget>(PointsComparison).setAccessibleName(LoadString(ComparisonOf).arg(LoadString(Points)));
+    Get<QWidget>(PointsComparison).setAccessibleName(ComparisonName(LoadString(Points)));
 }
 
 void FontControls::Wire() {

@@ -1,12 +1,12 @@
 #include "editing/ComparisonPair.h"
 
+#include "editing/ComparisonTexts.h"
 #include "editing/TextTip.h"
 #include "engines/TextServices.h"
 #include "engines/TrailingZeros.h"
 #include "engines/UIUtilities.h"
 #include "engines/ValidateEngine.h"
 #include "platform/Format.h"
-#include "platform/LanguageLibrary.h"
 
 #include <QComboBox>
 #include <QFocusEvent>
@@ -16,7 +16,6 @@
 
 namespace {
 
-constexpr unsigned ComparisonOf = 62120; // %1 the parameter
 constexpr int ShownDecimals = 6;
 
 CString ListText(const CGrowArray<double>& values) {
@@ -62,11 +61,8 @@ ComparisonPair::ComparisonPair(QComboBox* comparison, QLineEdit* value, bool isL
 
 void ComparisonPair::Fill(const QList<unsigned>& operators) {
     m_comparison->clear();
-    for (const unsigned code : operators) {
-        CString text;
-        CUIUtilities().OperatorText(static_cast<int>(code), text);
-        m_comparison->addItem(text);
-    }
+    for (const unsigned code : operators)
+        m_comparison->addItem(OperatorText(code));
     m_comparison->setCurrentIndex(0);
     SetEnabled(true);
 }
@@ -86,9 +82,8 @@ CStringArray ComparisonPair::Values() const {
 }
 
 void ComparisonPair::Show(unsigned comparison, const CString& value) {
-    CString text;
-    CUIUtilities().OperatorText(static_cast<int>(comparison), text);
-    const int row = m_comparison->findText(text, Qt::MatchExactly | Qt::MatchCaseSensitive);
+    const int row =
+        m_comparison->findText(OperatorText(comparison), Qt::MatchExactly | Qt::MatchCaseSensitive);
     m_comparison->setCurrentIndex(qMax(row, 0));
     m_value->setText(m_comparison->currentIndex() > 0 ? value : CString());
     SetEnabled(true);
@@ -127,7 +122,7 @@ void ComparisonPair::Store(CParameter<int>& parameter) const {
 }
 
 void ComparisonPair::SetName(const CString& name) {
-    m_comparison->setAccessibleName(LoadString(ComparisonOf).arg(name));
+    m_comparison->setAccessibleName(ComparisonName(name));
     m_value->setAccessibleName(name);
 }
 

@@ -4,6 +4,7 @@
 #include "engines/ParameterKinds.h"
 #include "engines/TrailingZeros.h"
 #include "model/ParameterValue.h"
+#include "model/ParameterWording.h"
 #include "platform/Format.h"
 
 #include <cstdint>
@@ -197,21 +198,6 @@ template <class T> void StoreRecord(CParameter<T>& parameter, CorrectionChoices&
 void StoreRecord(CParameter<COleDateTime*>&, CorrectionChoices&) {} // no control shows dates
 
 } // namespace
-
-bool IsShownAsPictures(int dataType, unsigned parameterType) {
-    switch (parameterType) {
-    case KindArrowStyle:
-    case KindLineThickness:
-    case KindLineStyle: return dataType == DataInt || dataType == DataLong;
-    case KindDisplayMode:
-    case KindTextAlign1:
-    case KindTextAlign2:
-    case KindTextAlign3:
-    case KindTextAlign4:
-    case KindSharpDisplay: return dataType == DataLong;
-    default: return false;
-    }
-}
 
 void LoadCorrectionControl(const CCheck& check, unsigned parameterID, CorrectionChoices& record) {
     const int style = record.EntryStyle;

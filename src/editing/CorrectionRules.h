@@ -16,6 +16,3 @@ void SeedCorrectionValue(const CStandard& standard, CCheck& scratch, unsigned pa
 // Writes the correction that a control shows into the parameter of a check. Where the parameter is not in
 // force only a text is written. The record learns the operator of whole and decimal numbers.
 void StoreCorrectionValue(CCheck& check, unsigned parameterID, CorrectionChoices& record);
-
-// Whether the values of a whole number are shown as pictures.
-bool IsShownAsPictures(int dataType, unsigned parameterType);

@@ -1,5 +1,6 @@
 #include "editing/NumberPair.h"
 
+#include "editing/ComparisonTexts.h"
 #include "editing/NumberSpin.h"
 #include "engines/UIUtilities.h"
 #include "platform/LanguageLibrary.h"
@@ -10,14 +11,7 @@
 
 namespace {
 
-constexpr unsigned ComparisonOf = 62120; // %1 the parameter
 constexpr unsigned Operators[] = {OpNone, OpEqual, OpBelow, OpAbove, OpAtLeast, OpAtMost};
-
-CString OperatorText(unsigned code) {
-    CString text;
-    CUIUtilities().OperatorText(static_cast<int>(code), text);
-    return text;
-}
 
 } // namespace
 
@@ -28,7 +22,7 @@ NumberPair::NumberPair(CACInfoManagerDlg& window, int comparison, int field, uns
         return;
     for (const unsigned code : Operators)
         m_comparison->addItem(OperatorText(code));
-    m_comparison->setAccessibleName(LoadString(ComparisonOf).arg(LoadString(parameter)));
+    m_comparison->setAccessibleName(ComparisonName(LoadString(parameter)));
     m_value->setAccessibleName(LoadString(parameter));
     m_value->findChild<QLineEdit*>()->setAccessibleName(LoadString(parameter));
     connect(m_comparison, &QComboBox::activated, this, &NumberPair::OperatorChosen);

@@ -1,21 +1,15 @@
 #include "editing/ValueField.h"
 
+#include "editing/ComparisonTexts.h"
 #include "editing/ExtRichEditCtrl.h"
 #include "editing/TextTip.h"
 #include "engines/TextServices.h"
 #include "engines/TrailingZeros.h"
-#include "engines/UIUtilities.h"
 #include "engines/ValidateEngine.h"
 #include "platform/Format.h"
 
 #include <QEvent>
 #include <QScopedValueRollback>
-
-namespace {
-
-constexpr char NumberListCharacters[] = "1234567890,.";
-
-} // namespace
 
 ValueField::ValueField(CExtRichEditCtrl* field, unsigned op, const CString& name)
     : m_field(field), m_operator(op) {
@@ -66,8 +60,7 @@ bool ValueField::eventFilter(QObject* watched, QEvent* event) {
 void ValueField::OnEdited() {
     if (m_isChecking)
         return;
-    CString comparison, text = m_field->text();
-    CUIUtilities().OperatorText(static_cast<int>(m_operator), comparison);
+    CString comparison = OperatorText(m_operator), text = m_field->text();
     {
         const QScopedValueRollback<bool> checking(m_isChecking, true);
         CValidateEngine().ValidateEntry(comparison, text, true);

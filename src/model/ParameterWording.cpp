@@ -7,21 +7,6 @@
 
 namespace {
 
-bool IsPictureKind(unsigned kind, int dataType) {
-    switch (kind) {
-    case KindArrowStyle:
-    case KindLineThickness:
-    case KindLineStyle: return dataType == DataInt || dataType == DataLong;
-    case KindDisplayMode:
-    case KindTextAlign1:
-    case KindTextAlign2:
-    case KindTextAlign3:
-    case KindTextAlign4:
-    case KindSharpDisplay: return dataType == DataLong;
-    default: return false;
-    }
-}
-
 // One value in words.
 class ValueWords {
 public:
@@ -37,8 +22,7 @@ public:
     CString operator()(const CString* value) const { return ValueForm<CString*>::Format(value); }
     CString operator()(const COleDateTime*) const { return {}; }
     template <class T>
-        requires std::is_integral_v<T>
-    CString operator()(T code) const {
+    requires std::is_integral_v<T> CString operator()(T code) const {
         CString text;
         m_engine.GetDisplayString(m_kind, static_cast<unsigned long>(code), text);
         return text;
@@ -97,6 +81,21 @@ void WordAsCodes(const CParameter<T>& parameter, ParameterRow::Form form, Parame
 
 } // namespace
 
+bool IsShownAsPictures(int dataType, unsigned parameterType) {
+    switch (parameterType) {
+    case KindArrowStyle:
+    case KindLineThickness:
+    case KindLineStyle: return dataType == DataInt || dataType == DataLong;
+    case KindDisplayMode:
+    case KindTextAlign1:
+    case KindTextAlign2:
+    case KindTextAlign3:
+    case KindTextAlign4:
+    case KindSharpDisplay: return dataType == DataLong;
+    default: return false;
+    }
+}
+
 ParameterRow WordParameter(const CParameterEntry& entry, int lengthUnit, int angleUnit) {
     ParameterRow row;
     if (!entry.Parameter || entry.Parameter->Operator == OpNone || entry.DataType == DataDate)
@@ -108,7 +107,7 @@ ParameterRow WordParameter(const CParameterEntry& entry, int lengthUnit, int ang
     VisitParameter(entry, [&](const auto& parameter) {
         if (entry.DataType == DataUnsigned)
             WordAsCodes(parameter, ParameterRow::Colors, row);
-        else if (IsPictureKind(row.parameterType, entry.DataType))
+        else if (IsShownAsPictures(entry.DataType, row.parameterType))
             WordAsCodes(parameter, ParameterRow::Pictures, row);
         else
             WordAsText(parameter, entry.DataType, words, row);

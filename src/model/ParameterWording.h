@@ -17,12 +17,15 @@ struct ParameterRow {
     CString parameter;
     CString value;      // of a text row, with its operator in words
     CString correction; // of a text row
-    unsigned op = 0;            // OperatorCode
+    unsigned op = 0;    // OperatorCode
     unsigned parameterType = 0;
     std::vector<unsigned long> codes; // of the other rows
     bool hasCorrectionCode = false;
     unsigned long correctionCode = 0;
 };
+
+// Whether the values of a whole number are shown as pictures.
+bool IsShownAsPictures(int dataType, unsigned parameterType);
 
 // Units are those of the standard.
 ParameterRow WordParameter(const CParameterEntry& entry, int lengthUnit, int angleUnit);

@@ -45,22 +45,12 @@ protected:
 } // namespace
 
 TEST(AssemblyPanes, HaveTheirCaptionsPicturesAndHelp) {
-    struct Expected {
-        MQC_CheckType_e type;
-        unsigned icon, caption, topic;
-    };
-    constexpr Expected all[] = {{503, 1264, 1740, 1402},           {127, 1438, 2425, 1020},
-                                {Interferences, 1406, 1753, 1506}, {Mates, 32960, 32939, 1506},
-                                {FixedParts, 1173, 1585, 1503},    {ExternalReferences, 1176, 1713, 1504}};
-    PaneRoom room;
-    room.Show();
-    for (const Expected& expected : all) {
-        CExtDialog& pane = room.Add(expected.type);
-        EXPECT_EQ(pane.IconID, expected.icon) << expected.type;
-        EXPECT_EQ(pane.Caption, LoadString(expected.caption)) << expected.type;
-        pane.ShowHelpTopic();
-        EXPECT_EQ(room.helpAsked.back(), std::pair(15u, expected.topic)) << expected.type;
-    }
+    ExpectPanes({{503, 1264, 1740, 1402},
+                 {127, 1438, 2425, 1020},
+                 {Interferences, 1406, 1753, 1506},
+                 {Mates, 32960, 32939, 1506},
+                 {FixedParts, 1173, 1585, 1503},
+                 {ExternalReferences, 1176, 1713, 1504}});
 }
 
 TEST(AssemblyPanes, KeysOfTheLabelsDifferInEachLanguage) {

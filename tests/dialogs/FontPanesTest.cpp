@@ -24,24 +24,19 @@ constexpr int OwnControls[] = {1001, 1002, 1003, 1004, 1006, 1007, 1008, 1136, 1
 } // namespace
 
 TEST(FontChecks, EachOfTheDocumentsFontsHasItsCaptionPictureAndHelp) {
-    struct Expected {
-        MQC_CheckType_e type;
-        unsigned icon, caption, topic;
-    };
-    constexpr Expected all[] = {{109, 1149, 1908, 1006}, {110, 1157, 1916, 1014}, {111, 1150, 1909, 1007},
-                                {112, 1151, 1910, 1008}, {113, 1152, 1911, 1009}, {114, 1153, 1912, 1010},
-                                {115, 1154, 1913, 1011}, {116, 1155, 1914, 1012}, {117, 1156, 1915, 1013},
-                                {119, 1253, 2185, 1015}, {120, 1254, 2189, 1016}, {403, 1161, 1699, 1203},
-                                {202, 1159, 1715, 1102}};
-    PaneRoom room;
-    room.Show();
-    for (const Expected& expected : all) {
-        CExtDialog& pane = room.Add(expected.type);
-        EXPECT_EQ(pane.IconID, expected.icon) << expected.type;
-        EXPECT_EQ(pane.Caption, LoadString(expected.caption)) << expected.type;
-        pane.ShowHelpTopic();
-        EXPECT_EQ(room.helpAsked.back(), std::pair(15u, expected.topic)) << expected.type;
-    }
+    ExpectPanes({{109, 1149, 1908, 1006},
+                 {110, 1157, 1916, 1014},
+                 {111, 1150, 1909, 1007},
+                 {112, 1151, 1910, 1008},
+                 {113, 1152, 1911, 1009},
+                 {114, 1153, 1912, 1010},
+                 {115, 1154, 1913, 1011},
+                 {116, 1155, 1914, 1012},
+                 {117, 1156, 1915, 1013},
+                 {119, 1253, 2185, 1015},
+                 {120, 1254, 2189, 1016},
+                 {403, 1161, 1699, 1203},
+                 {202, 1159, 1715, 1102}});
 }
 
 TEST(FontChecks, AnUnknownTypeLooksLikeTheFirst) {

@@ -22,22 +22,13 @@ CString NameOf(const QWidget& control) {
 } // namespace
 
 TEST(ValuePanes, EachHasItsCaptionPictureAndHelp) {
-    struct Expected {
-        MQC_CheckType_e type;
-        unsigned icon, caption, topic;
-    };
-    constexpr Expected all[] = {{108, 1147, 1662, 1004}, {405, 1164, 1689, 1204}, {409, 1258, 2273, 1208},
-                                {408, 1259, 2272, 1207}, {314, 1407, 1759, 1308}, {123, 1408, 139, 1019},
-                                {312, 1265, 1743, 1306}};
-    PaneRoom room;
-    room.Show();
-    for (const Expected& expected : all) {
-        CExtDialog& pane = room.Add(expected.type);
-        EXPECT_EQ(pane.IconID, expected.icon) << expected.type;
-        EXPECT_EQ(pane.Caption, LoadString(expected.caption)) << expected.type;
-        pane.ShowHelpTopic();
-        EXPECT_EQ(room.helpAsked.back(), std::pair(15u, expected.topic)) << expected.type;
-    }
+    ExpectPanes({{108, 1147, 1662, 1004},
+                 {405, 1164, 1689, 1204},
+                 {409, 1258, 2273, 1208},
+                 {408, 1259, 2272, 1207},
+                 {314, 1407, 1759, 1308},
+                 {123, 1408, 139, 1019},
+                 {312, 1265, 1743, 1306}});
 }
 
 TEST(ValuePanes, EveryInputHasANameOfItsOwn) {

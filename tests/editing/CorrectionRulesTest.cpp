@@ -1,6 +1,7 @@
 // Corrections between a check and the control that shows them.
 #include "editing/CorrectionRules.h"
 #include "engines/ParameterKinds.h"
+#include "model/ParameterWording.h"
 #include "platform/LanguageLibrary.h"
 
 #include <gtest/gtest.h>

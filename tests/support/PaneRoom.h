@@ -3,9 +3,11 @@
 
 #include "dialogs/PaneFactory.h"
 #include "editing/PageDialog.h"
+#include "platform/LanguageLibrary.h"
 #include "support/Gui.h"
 
 #include <gtest/gtest.h>
+#include <initializer_list>
 #include <utility>
 
 class PaneRoom final : public EditingHost {
@@ -57,3 +59,22 @@ public:
 private:
     std::unique_ptr<CPageDialog> m_page;
 };
+
+// A pane's picture, caption and page of help, by number.
+struct ToldPane {
+    MQC_CheckType_e type;
+    unsigned icon, caption, topic;
+};
+
+inline void ExpectPanes(std::initializer_list<ToldPane> panes) {
+    constexpr unsigned HelpCommand = 15;
+    PaneRoom room;
+    room.Show();
+    for (const ToldPane& told : panes) {
+        CExtDialog& pane = room.Add(told.type);
+        EXPECT_EQ(pane.IconID, told.icon) << told.type;
+        EXPECT_EQ(pane.Caption, LoadString(told.caption)) << told.type;
+        pane.ShowHelpTopic();
+        EXPECT_EQ(room.helpAsked.back(), std::pair(HelpCommand, told.topic)) << told.type;
+    }
+}
