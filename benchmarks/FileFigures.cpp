@@ -68,8 +68,7 @@ std::vector<Figure> FileFigures() {
     const QByteArray bytes = ReadAll(xml);
     xmlDoc* document = BareParse(bytes);
 
-    // A standard that was read stays, so its freeing is no part of the reading; it has a turn of its own, in
-    // which the heap also puts its pieces together, so that each reading meets a heap in the same order.
+    // A standard that was read stays: its freeing is no part of the reading, and has a turn of its own.
     std::optional<CStandard> loaded;
     const std::vector<double> times =
         MedianTimes({[&] { xmlFreeDoc(BareParse(bytes)); },
