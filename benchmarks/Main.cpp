@@ -25,8 +25,8 @@ public:
 };
 
 // The heap puts small pieces together long after they were freed, whoever asks it for a large one next. It
-// does so here, so that no task pays for the one before: the 200,000 pieces of a bare tree cost half as much
-// again as a whole reading.
+// does so here, so that no task pays for the one before: to put a bare tree together costs more than half of
+// a whole reading.
 void TidyHeap() {
     constexpr std::size_t LargeForTheHeap = 1 << 16;
     void* volatile block = std::malloc(LargeForTheHeap); // volatile, or the compiler drops the pair

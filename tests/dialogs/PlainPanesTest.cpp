@@ -87,27 +87,12 @@ TEST(PlainPanes, ClassesFollowTheCatalogue) {
 }
 
 TEST(PlainPanes, EachHasItsCaptionIconAndTopic) {
-    constexpr struct {
-        MQC_CheckType_e type;
-        unsigned icon, caption, topic;
-    } Rows[] = {
-        {107, 1148, 1593, 1005}, {118, 1250, 1949, 1017}, {203, 1249, 1691, 1104}, {301, 1160, 1595, 1103},
-        {307, 1168, 1587, 1303}, {309, 1143, 1597, 1305}, {313, 1401, 1958, 1307}, {401, 1163, 1589, 1201},
-        {406, 1165, 1591, 1205}, {407, 1260, 2271, 1206}, {602, 1174, 1601, 1502}, {606, 1256, 1736, 1505},
-        {701, 1178, 1600, 1601}, {702, 1177, 1599, 1602}, {703, 1251, 1995, 1603}, {704, 1257, 1738, 1604},
-        {705, 1441, 2500, 1605}, {101, 1144, 1581, 1001}, {105, 1146, 1723, 1003}, {310, 1166, 1925, 1304}};
-    PaneRoom room;
-    room.Show();
-    for (const auto& row : Rows) {
-        CExtDialog& pane = room.Add(row.type);
-        EXPECT_EQ(pane.IconID, row.icon) << row.type;
-        EXPECT_EQ(pane.Caption, LoadString(row.caption)) << row.type;
-        Gui::Focus(*pane.GetDlgItem<QWidget>(CExtDialog::CriticalityControl));
-        Gui::Key(*pane.GetDlgItem<QWidget>(CExtDialog::CriticalityControl), Qt::Key_F1);
-        ASSERT_FALSE(room.helpAsked.empty()) << row.type;
-        EXPECT_EQ(room.helpAsked.back(), std::pair(15u, row.topic)) << row.type;
-    }
-    EXPECT_EQ(room.helpAsked.size(), std::size(Rows));
+    ExpectPanes(
+        {{107, 1148, 1593, 1005}, {118, 1250, 1949, 1017}, {203, 1249, 1691, 1104}, {301, 1160, 1595, 1103},
+         {307, 1168, 1587, 1303}, {309, 1143, 1597, 1305}, {313, 1401, 1958, 1307}, {401, 1163, 1589, 1201},
+         {406, 1165, 1591, 1205}, {407, 1260, 2271, 1206}, {602, 1174, 1601, 1502}, {606, 1256, 1736, 1505},
+         {701, 1178, 1600, 1601}, {702, 1177, 1599, 1602}, {703, 1251, 1995, 1603}, {704, 1257, 1738, 1604},
+         {705, 1441, 2500, 1605}, {101, 1144, 1581, 1001}, {105, 1146, 1723, 1003}, {310, 1166, 1925, 1304}});
 }
 
 TEST(PlainPanes, CriticalityReachesTheCheck) {

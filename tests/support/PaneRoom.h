@@ -66,6 +66,7 @@ struct ToldPane {
     unsigned icon, caption, topic;
 };
 
+// Adds the panes and asks each for help by its key.
 inline void ExpectPanes(std::initializer_list<ToldPane> panes) {
     constexpr unsigned HelpCommand = 15;
     PaneRoom room;
@@ -74,7 +75,11 @@ inline void ExpectPanes(std::initializer_list<ToldPane> panes) {
         CExtDialog& pane = room.Add(told.type);
         EXPECT_EQ(pane.IconID, told.icon) << told.type;
         EXPECT_EQ(pane.Caption, LoadString(told.caption)) << told.type;
-        pane.ShowHelpTopic();
+        QWidget& criticality = *pane.GetDlgItem<QWidget>(CExtDialog::CriticalityControl);
+        Gui::Focus(criticality);
+        Gui::Key(criticality, Qt::Key_F1);
+        ASSERT_FALSE(room.helpAsked.empty()) << told.type;
         EXPECT_EQ(room.helpAsked.back(), std::pair(HelpCommand, told.topic)) << told.type;
     }
+    EXPECT_EQ(room.helpAsked.size(), panes.size());
 }
