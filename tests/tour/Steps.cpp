@@ -11,7 +11,9 @@ void TourSteps::Shoot(const QImage& picture, const CString& name, const CString&
 }
 
 void TourSteps::Tell(const CString& file, const CString& says) {
-    std::printf("  %-40s %s\n", QDir(m_out).filePath(file).toUtf8().constData(), says.toUtf8().constData());
+    constexpr qsizetype LongestName = 24;
+    const CString path = QDir(m_out).filePath(file).leftJustified(m_out.size() + 1 + LongestName);
+    std::printf("  %s %s\n", path.toUtf8().constData(), says.toUtf8().constData());
     std::fflush(stdout);
 }
 
